@@ -1,0 +1,26 @@
+JOBS ?= $(shell nproc)
+
+.PHONY: all setup build build-asan check example clean
+
+all: build
+
+setup:
+	@sh scripts/setup.sh
+
+build: setup
+	cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+	ninja -C build -j $(JOBS)
+
+build-asan: setup
+	cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DZQ_SANITIZE=ON >/dev/null
+	ninja -C build-asan -j $(JOBS)
+
+check: build build-asan
+	cd build && ctest --output-on-failure -j $(JOBS)
+	cd build-asan && ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
+
+example: build
+	sh example/run.sh build/zqasm
+
+clean:
+	rm -rf build build-asan
