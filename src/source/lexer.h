@@ -1,0 +1,97 @@
+#pragma once
+// Source lines, characters and tokens.
+//
+// Ownership: token strings (TK_IDENT, TK_SCON, TK_OPCODE_REST) and the
+// simul_fval of a TK_FCON are allocated with malloc and released with free;
+// LEX_droptkn releases a token together with them.
+#include <cstdint>
+#include <string>
+
+#include "driver/records.h"
+
+class FHM_FILE;
+
+// ---- Character state -------------------------------------------------------
+
+// Classes of chtyp.
+enum : uint32_t {
+  CH_SPACE = 0,
+  CH_EOL = 1,
+  CH_ALPHA = 2,  // letters, '_' and '$'
+  CH_DIGIT = 4,
+  CH_OTHER = 8,
+};
+
+extern char *inbuf;          // the line being read, with its line feed
+extern uint32_t inbuf_len;
+extern uint32_t inbuf_uid;   // one serial number per physical line read
+extern char ch;              // current character
+extern uint32_t chtyp;       // class of ch
+extern int32_t chpos;        // index of ch in inbuf; -1 before the first
+
+// ---- Token state -------------------------------------------------------------
+
+extern token *curtk;         // the current token
+extern token *availtkn;      // pushed-back tokens, newest first
+extern linebuf *curline;     // line of the last token read
+extern uint32_t LEX_live_tokens;
+
+// ---- Lines ---------------------------------------------------------------------
+
+// Reads one line (any length) through mygetc; a fresh malloc'd text that ends
+// in one line feed, or null at the end of the file with nothing read.
+char *getline(FHM_FILE *f);
+// Next input line: command-line includes, then ASSY_SRC, popping finished
+// copied files. Null at the end of all input (endfile is then set).
+char *LEX_readln();
+// Forget the rest of the current line: the next token request reads a new one.
+void LEX_reset();
+// Puts a changed line in inbuf (the lexer does not own the text).
+void LEX_inbuf_update(char *text, short length);
+
+// ---- Character layer --------------------------------------------------------------
+
+void getch();            // next character, no comment rules
+void nextch();           // next character; ';' and a first-column '*' end the line
+void ungetch();          // one character back
+void skip_to_nextch();   // over white space, with the rules of nextch
+void skip_to_space();    // over everything up to white space or the line end
+char curch();
+int curchpos();
+
+// ---- Tokens -------------------------------------------------------------------------
+
+token *LEX_tkn();                // the next token straight from the line
+token *get_a_token();            // pushed-back token, or LEX_tkn with substitution
+token *next_token();             // drops curtk, then curtk = get_a_token()
+token *get_token();              // curtk = get_a_token(), the old curtk is the caller's
+void unget_token(token **tk);    // pushes *tk in front of availtkn and nulls *tk
+void LEX_droptkn(token *tk);     // null is accepted
+token *copy_curtk_for_unget();   // a deep copy of curtk
+bool LEX_eol();                  // curtk is the end of the line (or there is none)
+// The file name operand of .copy/.include/.mlib: curtk becomes a TK_SCON
+// holding it (quoted, or raw text up to white space) and is returned.
+token *LEX_getfname();
+// At a token other than TK_EOL: "E0003" "Unexpected trailing operand(s)" and
+// curtk moves on to the end of the line.
+void skip_to_expected_eol(linebuf *line);
+// Moves curtk on to the end of the line without a message.
+void LEX_skip_to_eol();
+
+// ---- Constants and strings ----------------------------------------------------------
+
+// Reads a number starting at ch (a digit) into tk: TK_ICON, or TK_FCON.
+void LEX_const(token *tk);
+// Reads a string whose opening quote is the current character; *out gets a
+// malloc'd text; the result is its length.
+int LEX_string(char quote, char **out);
+
+// Forced substitution of :name: forms on a fresh line.
+void LEX_prescan();
+
+// ---- String utilities (in place) --------------------------------------------------------
+
+char *strupper(char *s);
+char *strlower(char *s);
+char *strip_escape(char *s);   // removes every '|'
+void strupper(std::string &s);
