@@ -28,7 +28,8 @@ enum : uint16_t {
 };
 
 // Owned parts (v_fval, v_str, v_rel) of a heap record are malloc'ed; a
-// record that lives in the expression zone owns nothing.
+// record that lives in the expression zone owns nothing. v_bif is never
+// owned: it points at a name in the table of built-in functions.
 struct value_record {
   uint16_t v_flags;
   uint16_t v_bits;
@@ -41,7 +42,7 @@ struct value_record {
   uint8_t v_rel_count;
   uint8_t v_rel_cap;
   relrec *v_rel;        // relocation expression (postfix), or null
-  const char *v_bif;    // built-in relocation function that made the value
+  const char *v_bif;    // built-in relocation function that made the value (not owned)
   section_record *v_section;
   symbol_record *v_symbol;
   symbol_record *v_symbol2;

@@ -51,6 +51,6 @@ void lookup_opcode();
 void enter_dirtbl(const dir_oprec *table);
 void enter_instrtbl(const mnemonic_row *table);
 void enter_fcntbl(const bifcn_oprec *table);
-// Clears ophash and enters gen_direct, trg_direct, trg_mnemonics and the
+// Enters gen_direct, trg_direct, trg_mnemonics and the
 // built-in functions, in that order.
 void init_ophash();

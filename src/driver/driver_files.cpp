@@ -1,0 +1,224 @@
+// The command line: its words, the file names of the run, and the files opened
+// before pass 1.
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "driver/diag.h"
+#include "driver/driver.h"
+#include "driver/driver_run.h"
+#include "driver/options.h"
+#include "source/copy.h"
+#include "support/fhm.h"
+#include "target/arm/trg.h"
+
+namespace {
+
+FILE *cmd_file = nullptr;
+int next_argv_index = 1;
+// The last two command-file words stay alive: an option handler may still be
+// reading the option's own word while it fetches its detached argument.
+char *cmd_words[2] = {nullptr, nullptr};
+
+void keep_cmd_word(char *word) {
+  free(cmd_words[0]);
+  cmd_words[0] = cmd_words[1];
+  cmd_words[1] = word;
+}
+
+void store_name(char (&dst)[4096], const std::string &src) {
+  const size_t n = src.size() < sizeof dst - 1 ? src.size() : sizeof dst - 1;
+  memcpy(dst, src.data(), n);
+  dst[n] = '\0';
+}
+
+std::string with_extension(const std::string &name, const char *ext) {
+  return name_without_extension(name) + ext;
+}
+
+void trim(std::string &s) {
+  const char *ws = " \t\r\n\f\v";
+  const size_t first = s.find_first_not_of(ws);
+  if (first == std::string::npos) {
+    s.clear();
+    return;
+  }
+  s.erase(s.find_last_not_of(ws) + 1);
+  s.erase(0, first);
+}
+
+// A source that another tool chain produced is refused before anything else.
+void scan_for_foreign_source(const char *src) {
+  FHM_FILE *f = fhm_open(src, "rb");
+  if (!f) {
+    const int err = errno;
+    error_user(nullptr, "E1000", "Cannot open source file %s: %s", src, strerror(err));
+    exit(1);
+  }
+  char piece[401];
+  while (myfgets(piece, sizeof piece, f)) {
+    if (is_compiler_opts_line(piece)) {
+      fhm_close(f);
+      fprintf(stderr,
+              ">> ERROR: .compiler_opts indicates that this file might be a product of the ZQ "
+              "proprietary toolchain. Assembly generated from the proprietary toolchain is not "
+              "valid input to the LLVM toolchain.\n");
+      exit(1);
+    }
+  }
+  fhm_close(f);
+}
+
+void open_dependency_file() {
+  if (opt_on(OPT_ASM_INCLUDES) && !opt_on(OPT_ASM_DEPENDENCY)) global_opts->setopt(OPT_ASM_DEPENDENCY);
+  if (!opt_on(OPT_ASM_DEPENDENCY)) return;
+  global_opts->clearopt(OPT_ASM_LISTING);
+  dependency_filename = static_cast<char *>(calloc(4096, 1));
+  const char *given = global_opts->getargcount(OPT_ASM_DEPENDENCY) ? global_opts->getstrarg(OPT_ASM_DEPENDENCY, 0)
+                                                                  : nullptr;
+  const std::string name = given && *given ? std::string(given) : with_extension(assy_obj_name, ".ppa");
+  strncpy(dependency_filename, name.c_str(), 4095);
+  dependency_file = fopen(dependency_filename, "w");
+  if (!dependency_file) {
+    const int err = errno;
+    error_user(nullptr, "E1000", "failed to open %s: %s\n", dependency_filename, strerror(err));
+    exit(1);
+  }
+  if (!opt_on(OPT_ASM_INCLUDES)) fprintf(dependency_file, "%s: %s\n", assy_obj_name, assy_src_name);
+}
+
+}  // namespace
+
+bool name_has_extension(const std::string &name) {
+  const size_t slash = name.find_last_of('/');
+  const size_t dot = name.find_last_of('.');
+  return dot != std::string::npos && (slash == std::string::npos || dot > slash);
+}
+
+std::string name_without_extension(const std::string &name) {
+  if (!name_has_extension(name)) return name;
+  return name.substr(0, name.find_last_of('.'));
+}
+
+std::string name_directory(const std::string &name) {
+  const size_t slash = name.find_last_of('/');
+  if (slash == std::string::npos) return "";
+  return slash == 0 ? "/" : name.substr(0, slash);
+}
+
+run_file_names derive_file_names(const std::vector<std::string> &given, bool suppress_asm_extension,
+                                 bool preprocess, bool profile) {
+  run_file_names n;
+  if (given.empty()) return n;
+  n.src = given[0];
+  n.obj = given.size() >= 2 ? given[1] : with_extension(n.src, ".obj");
+  n.lst = given.size() >= 3 ? given[2] : name_without_extension(n.obj);
+  if (!suppress_asm_extension) {
+    if (!name_has_extension(n.obj)) n.obj += ".obj";
+    if (!name_has_extension(n.src)) n.src += ".asm";
+  }
+  if (!name_has_extension(n.lst)) n.lst += preprocess ? ".exp" : ".lst";
+  if (profile) n.prf = with_extension(n.obj, ".prf");
+  return n;
+}
+
+bool is_compiler_opts_line(const char *piece) {
+  std::string s = piece ? piece : "";
+  trim(s);
+  if (s.empty() || s[0] == ';' || s[0] == '*') return false;
+  return s.compare(0, 14, ".compiler_opts") == 0;
+}
+
+const char *next_argument() {
+  while (cmd_file) {
+    char *word = fnextopt(cmd_file);
+    if (word) {
+      keep_cmd_word(word);
+      return word;
+    }
+    fclose(cmd_file);
+    cmd_file = nullptr;
+  }
+  if (sys_argv && next_argv_index < sys_argc) return sys_argv[next_argv_index++];
+  return nullptr;
+}
+
+void open_cmd_file(const char *name) {
+  FILE *f = fopen(name, "r");
+  if (!f) {
+    const int err = errno;
+    error_user(nullptr, "E1000", "Cannot open command file '%s': %s", name, strerror(err));
+    return;
+  }
+  // Only the file opened last is read on.
+  if (cmd_file) fclose(cmd_file);
+  cmd_file = f;
+}
+
+void add_incl_path(const char *dir) { paths.emplace_back(dir ? dir : ""); }
+
+void get_files() {
+  paths.assign(1, std::string());
+
+  std::vector<std::string> names;
+  int count = 0;
+  for (const char *word = next_argument(); word; word = next_argument()) {
+    if (word[0] == '-') {
+      global_opts->process_option(word + 1, nullptr);  // an unknown option is dropped quietly
+      continue;
+    }
+    ++count;
+    if (count <= 3) names.emplace_back(word);
+    if (count == 3) global_opts->setopt(OPT_ASM_LISTING);
+  }
+  if (count > 3) {
+    error_user(nullptr, "E0000", "Too many files on command line");
+    exit(1);
+  }
+  if (count == 0) {
+    global_opts->display_option_help(nullptr, 0);
+    exit(0);
+  }
+
+  const run_file_names n = derive_file_names(names, opt_on(OPT_SUPPRESS_ASM_EXTENSION),
+                                             opt_on(OPT_PREPROCESS), opt_on(OPT_PROFILE));
+  store_name(assy_src_name, n.src);
+  store_name(assy_obj_name, n.obj);
+  store_name(assy_lst_name, n.lst);
+  store_name(assy_prf_name, n.prf);
+
+  scan_for_foreign_source(assy_src_name);
+  TRG_verify_options();
+  open_dependency_file();
+  if (opt_on(OPT_PBC_OUTPUT)) global_opts->clearopt(OPT_ASM_LISTING);
+
+  paths[0] = name_directory(assy_src_name);
+
+  ASSY_SRC = fhm_open(assy_src_name, "rb");
+  if (!ASSY_SRC) {
+    const int err = errno;
+    error_user(nullptr, "E1000", "cannot open source file %s: %s", assy_src_name, strerror(err));
+    exit(1);
+  }
+  if (opt_on(OPT_ASM_LISTING)) {
+    ASSY_LST = fhm_open(assy_lst_name, "w");
+    if (!ASSY_LST) {
+      const int err = errno;
+      error_user(nullptr, "E1000", "cannot open listing file %s: %s", assy_lst_name, strerror(err));
+      global_opts->clearopt(OPT_ASM_LISTING);
+    }
+  }
+  if (opt_on(OPT_PROFILE)) {
+    ASSY_PRF = fhm_open(assy_prf_name, "w");
+    if (!ASSY_PRF) {
+      const int err = errno;
+      error_user(nullptr, "E1000", "cannot open profile file %s: %s", assy_prf_name, strerror(err));
+      global_opts->clearopt(OPT_PROFILE);
+    }
+  }
+
+  extract_paths("A_DIR", [](const char *dir) { add_incl_path(dir); });
+  extract_paths("C_DIR", [](const char *dir) { add_incl_path(dir); });
+}

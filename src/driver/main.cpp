@@ -1,0 +1,77 @@
+// The assembler's main sequence: start-up, pass 1, jump expansion, pass 2,
+// end processing and object building.
+#include <cstdio>
+#include <cxxabi.h>
+#include <exception>
+#include <memory>
+#include <typeinfo>
+#include <unistd.h>
+
+#include "debug/bld_object.h"
+#include "debug/dwarf_directives.h"
+#include "directives/directives.h"
+#include "driver/diag.h"
+#include "driver/driver.h"
+#include "driver/driver_run.h"
+#include "driver/options.h"
+#include "expr/symbols.h"
+#include "target/arm/jumps.h"
+
+namespace {
+
+int run(int argc, char **argv) {
+  signal_init();
+  sys_argc = static_cast<int16_t>(argc);
+  sys_argv = argv;
+  execname = argc > 0 ? argv[0] : nullptr;
+
+  const std::string dir = run_directory(execname);
+  if (!dir.empty()) add_run_search_path(dir.c_str());
+
+  initialize();
+  make_ofile();
+
+  prepare_pass1();
+  process_source();
+
+  if (object_format() == 2) COMGRP_process();
+  LOCLBL_flush();
+  if (LBL_current) LBL_define();
+  reintroduce_branch_chains();
+  expand_jumps();
+
+  prepare_pass2();
+  process_source();
+  end_processing();
+
+  if (!opt_on(OPT_ASM_DEPENDENCY) && !opt_on(OPT_PBC_OUTPUT)) BLD_object();
+
+  dw_cleanup();
+  destroy_ofile();
+
+  if (num_errors == 0) return 0;
+  if (opt_on(OPT_ASM_DEPENDENCY) && dependency_filename) unlink(dependency_filename);
+  return 1;
+}
+
+std::string demangled(const char *name) {
+  int status = 0;
+  std::unique_ptr<char, void (*)(void *)> text(abi::__cxa_demangle(name, nullptr, nullptr, &status),
+                                               std::free);
+  return status == 0 && text ? text.get() : name;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  try {
+    return run(argc, argv);
+  } catch (const std::exception &e) {
+    fprintf(stderr, "Unhandled exception of type %s: %s\n\n", demangled(typeid(e).name()).c_str(),
+            e.what());
+  } catch (...) {
+    fprintf(stderr, "Unhandled exception not derived from std::exception\n\n");
+  }
+  fputs(support_notice(), stderr);
+  return 1;
+}

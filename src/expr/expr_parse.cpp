@@ -1,0 +1,112 @@
+// Parsing by the precedence table: binary levels 0 to 7, unary operators at
+// level 8, terms at level 9.
+#include "driver/diag.h"
+#include "expr/expr.h"
+#include "expr/expr_internal.h"
+#include "source/lexer.h"
+
+const uint16_t trg_prec_tbl[PREC_LEVELS][PREC_ROW] = {
+    {TK_OR, 0},
+    {TK_XOR, 0},
+    {TK_AND, 0},
+    {TK_EQ, TK_NE, 0},
+    {TK_LT, TK_LE, TK_GT, TK_GE, 0},
+    {TK_ASHLEFT, TK_ASHRIGHT, 0},
+    {TK_PLUS, TK_MINUS, 0},
+    {TK_MULT, TK_DIV, TK_PERCENT, 0},
+    {TK_PLUS, TK_MINUS, TK_NOT, TK_NOTB, 0},
+    {TK_IDENT, TK_ICON, TK_FCON, TK_SCON, TK_CCON, TK_INTRINSIC, TK_LPAREN, TK_SPC,
+     TK_LOCLABEL, 0},
+};
+
+namespace {
+
+struct op_row {
+  uint16_t token;
+  expr_opcode op;
+};
+
+constexpr op_row op_table[] = {
+    {TK_NOT, EOP_NOT},     {TK_PERCENT, EOP_MOD}, {TK_AND, EOP_AND},     {TK_MULT, EOP_MPY},
+    {TK_PLUS, EOP_ADD},    {TK_MINUS, EOP_SUB},   {TK_DIV, EOP_DIV},     {TK_LT, EOP_LT},
+    {TK_EQ, EOP_EQ},       {TK_GT, EOP_GT},       {TK_XOR, EOP_XOR},     {TK_OR, EOP_OR},
+    {TK_NOTB, EOP_NOTB},   {TK_ASHLEFT, EOP_SL},  {TK_ASHRIGHT, EOP_ASR}, {TK_NE, EOP_NE},
+    {TK_LE, EOP_LE},       {TK_GE, EOP_GE},       {0, EOP_ICON},
+};
+
+// Set once a message has been given for the expression being parsed, so
+// that the levels above fail without adding their own.
+bool parse_reported = false;
+
+bool map_operator(uint16_t token, expr_opcode *op) {
+  for (const op_row *row = op_table; row->token; ++row) {
+    if (row->token == token) {
+      *op = row->op;
+      return true;
+    }
+  }
+  error_internal(1, curline, "unrecognized operator!");
+  return false;
+}
+
+node *parse_unary() {
+  if (E_opfound(8)) {
+    expr_opcode op;
+    if (!map_operator(curtk->kind, &op)) return nullptr;
+    next_token();
+    node *operand = parse_unary();
+    if (!operand) {
+      E_parse_error("E0200", "Unary operator can't be applied");
+      return nullptr;
+    }
+    return E_mktree(op, operand, nullptr);
+  }
+  if (!E_opfound(9)) return nullptr;
+  return E_term();
+}
+
+node *parse_level(int level) {
+  node *left = level == 7 ? parse_unary() : parse_level(level + 1);
+  if (!left) {
+    if (level == 0) E_parse_error("E0200", "Bad term in expression");
+    return nullptr;
+  }
+  while (E_opfound(level)) {
+    expr_opcode op;
+    if (!map_operator(curtk->kind, &op)) return nullptr;
+    next_token();
+    node *right = level == 7 ? parse_unary() : parse_level(level + 1);
+    if (!right) {
+      E_parse_error("E0200", "Binary operator can't be applied");
+      return nullptr;
+    }
+    left = E_mktree(op, left, right);
+  }
+  return left;
+}
+
+}  // namespace
+
+void E_parse_error(const char *id, const char *text) {
+  if (parse_reported) return;
+  parse_reported = true;
+  error(curline, id, "%s", text);
+}
+
+void E_parse_failed() { parse_reported = true; }
+
+node *E_level0() { return parse_level(0); }
+
+bool E_opfound(int level) {
+  if (!curtk || level < 0 || level >= PREC_LEVELS) return false;
+  for (const uint16_t *tk = trg_prec_tbl[level]; *tk; ++tk) {
+    if (*tk == curtk->kind) return true;
+  }
+  return false;
+}
+
+node *E_build(const expr_parse_state_t &) {
+  paren_depth = 0;
+  parse_reported = false;
+  return parse_level(0);
+}

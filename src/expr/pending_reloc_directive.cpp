@@ -1,0 +1,6 @@
+// Interim handler of .reloc; the relocations step makes it real.
+
+#include "expr/reloc_directive.h"
+#include "driver/pending.h"
+
+[[gnu::weak]] void DP_reloc(instruct *ir) { DIR_parse_not_supported(ir); }

@@ -1,0 +1,64 @@
+// Interim pieces of later steps that the symbol table calls into. Each weak
+// definition gives way to the real one when its subsystem lands.
+#include "driver/diag.h"
+#include "driver/driver.h"
+#include "expr/symbols.h"
+#include "expr/symbols_internal.h"
+
+// Register substitution (.map) becomes subregsymtbl.SUBREGSYM_find with the
+// substitution symbols; until then no name has a substitute.
+[[gnu::weak]] const std::string *SYM_register_substitute(const std::string &) { return nullptr; }
+
+// The section manager owns curseg; the field accumulator and jump lists come
+// with it and with jump expansion. Until then no bits wait in an accumulator
+// and no section has a jump list.
+[[gnu::weak]] section_record *curseg = nullptr;
+[[gnu::weak]] uint32_t SYM_label_address() { return curpc; }
+[[gnu::weak]] bool SYM_section_has_jumps() { return false; }
+[[gnu::weak]] void SYM_record_label_jump(symbol_record *sym) {
+  error_internal(1, nullptr, "jump list without jump expansion for %s", sym->sym_name.c_str());
+}
+
+// What the object hand-over reads of a section; no section exists before the
+// section manager lands.
+namespace {
+void no_section_manager() { error_internal(1, nullptr, "section record read before the section manager exists"); }
+}  // namespace
+[[gnu::weak]] OFE::OF_SECTION *SYM_scn_object(section_record *) {
+  no_section_manager();
+  return nullptr;
+}
+[[gnu::weak]] symbol_record *SYM_scn_symbol(section_record *) {
+  no_section_manager();
+  return nullptr;
+}
+[[gnu::weak]] bool SYM_scn_has_code(section_record *) {
+  no_section_manager();
+  return false;
+}
+[[gnu::weak]] uint32_t SYM_scn_start(section_record *) {
+  no_section_manager();
+  return 0;
+}
+
+// ZQ-COFF objects can't be made before the COFF writer lands.
+[[gnu::weak]] void SYM_invent_coff(symbol_record *sym, OFE::OF_SYMBOL *, section_record *, int) {
+  error_internal(1, nullptr, "ZQ-COFF symbol %s without the COFF writer", sym->sym_name.c_str());
+}
+[[gnu::weak]] void SYM_file_coff(OFE::OF_SYMBOL *) {
+  error_internal(1, nullptr, "ZQ-COFF file symbol without the COFF writer");
+}
+// Nothing names a symbol in an attribute list before the build attributes land.
+[[gnu::weak]] void SYM_attrs_add(OFE::OFBA_ATTR_LIST *, OFE::OF_SYMBOL *) {
+  error_internal(1, nullptr, "build-attribute list without the attribute tables");
+}
+
+// Target state (instruction tables step) and the instruction parser's mark
+// of a modified operand (instruction parser step).
+[[gnu::weak]] uint32_t cur_state = 0;
+[[gnu::weak]] uint8_t modified_op = 0;
+
+// Page control of the listing file comes with the listing step.
+[[gnu::weak]] uint16_t LST_linesprinted = 0;
+[[gnu::weak]] uint16_t LST_pagelen = 60;
+[[gnu::weak]] void LST_pagehdr() { LST_linesprinted = 0; }

@@ -1,0 +1,11 @@
+// Interim listing output; the listing step writes the lines, object bytes and
+// messages of a group to the listing file.
+#include "driver/diag.h"
+#include "listing/listing.h"
+
+[[gnu::weak]] void LST_print_group(const lst_group *) {
+  static bool told = false;
+  if (told) return;
+  told = true;
+  internal_warning("the listing file is not written by this build");
+}

@@ -1,0 +1,322 @@
+#include <cstring>
+
+#include "ofe/of_reloc_type.h"
+
+namespace OFE {
+
+// ---- tables ----------------------------------------------------------------
+
+namespace {
+constexpr uint32_t ONES = 0xffffffffu;
+}
+
+const OF_RELOC_TEMPLATE OF_COMMON_RELOC_TEMPLATE_DB[] = {
+    {OFR_NONE, "OFR_NONE", 0x41004, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFR_ABS, "OFR_ABS", 0x4, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_ADD, "OFRE_ADD", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_SUB, "OFRE_SUB", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_NEG, "OFRE_NEG", 0xA, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_MPY, "OFRE_MPY", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_DIV, "OFRE_DIV", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_MOD, "OFRE_MOD", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_SR, "OFRE_SR", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_ASR, "OFRE_ASR", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_SL, "OFRE_SL", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_AND, "OFRE_AND", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_OR, "OFRE_OR", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_XOR, "OFRE_XOR", 0x8, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_NOTB, "OFRE_NOTB", 0xA, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_ULDFLD, "OFRE_ULDFLD", 0x120, ONES, OFRO_UNSIGNED, 0, 0, 0, 0},
+    {OFRE_SLDFLD, "OFRE_SLDFLD", 0x120, ONES, OFRO_SIGNED, 0, 0, 0, 0},
+    {OFRE_USTFLD, "OFRE_USTFLD", 0x140, ONES, OFRO_UNSIGNED, 0, 0, 0, 0},
+    {OFRE_SSTFLD, "OFRE_SSTFLD", 0x140, ONES, OFRO_SIGNED, 0, 0, 0, 0},
+    {OFRE_PUSH, "OFRE_PUSH", 0x14, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_PUSHSK, "OFRE_PUSHSK", 0x210, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_PUSHUK, "OFRE_PUSHUK", 0x210, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_PUSHPC, "OFRE_PUSHPC", 0x410, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_DUP, "OFRE_DUP", 0x10, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRE_XSTFLD, "OFRE_XSTFLD", 0x140, ONES, OFRO_EITHER, 0, 0, 0, 0},
+    {OFRM_RANGE, "OFRM_RANGE", 0x280, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRM_OBJ, "OFRM_OBJ", 0x84, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFRM_DWARF_LENGTH, "OFRM_DWARF_LENGTH", 0x280, ONES, OFRO_NONE, 0, 0, 0, 0},
+    {OFR_RELBYTE, "OFR_RELBYTE", 0x4, ONES, OFRO_NONE, 8, 0, 8, 0},
+    {OFR_RELWORD, "OFR_RELWORD", 0x4, ONES, OFRO_EITHER, 16, 0, 16, 0},
+    {OFR_RELLONG, "OFR_RELLONG", 0x4, ONES, OFRO_NONE, 32, 0, 32, 0},
+    {OFR_PCRBYTE, "OFR_PCRBYTE", 0x5, ONES, OFRO_SIGNED, 8, 0, 8, 0},
+    {OFR_PCRWORD, "OFR_PCRWORD", 0x5, ONES, OFRO_SIGNED, 16, 0, 16, 0},
+    {OFR_PCRLONG, "OFR_PCRLONG", 0x5, ONES, OFRO_NONE, 32, 0, 32, 0},
+    {OFR_ABS64, "OFR_ABS64", 0x4, ONES, OFRO_NONE, 64, 0, 64, 0},
+    {~0u, nullptr, 0, 0, 0, 0, 0, 0, 0},
+};
+
+// Template ids 0x300 and up, in the order of the ELF table.
+const OF_RELOC_TEMPLATE OF_ARM_RELOC_TEMPLATE_DB[] = {
+    {OFR_ARM_PC24, "OFR_ARM_PC24", 0x2005, 0xffffffff, OFRO_SIGNED, 25, 0, 32, 1},
+    {OFR_ARM_LDR_PC_G0, "OFR_ARM_LDR_PC_G0", 0x4005, 0xffffffff, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_ABS12, "OFR_ARM_ABS12", 0x4, 0xffffffff, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_THM_ABS5, "OFR_ARM_THM_ABS5", 0x4, 0xffffffff, OFRO_UNSIGNED, 5, 6, 16, 2},
+    {OFR_ARM_ABS8, "OFR_ARM_ABS8", 0x4, 0xffffffff, OFRO_EITHER, 8, 0, 8, 0},
+    {OFR_ARM_SBREL32, "OFR_ARM_SBREL32", 0xc004, 0xffffffff, OFRO_EITHER, 32, 0, 32, 0},
+    {OFR_ARM_THM_CALL, "OFR_ARM_THM_CALL", 0x6005, 0xffffffff, OFRO_SIGNED, 24, 0, 32, 1},
+    {OFR_ARM_THM_PC8, "OFR_ARM_THM_PC8", 0x5, 0xfffffffc, OFRO_EITHER, 8, 0, 16, 2},
+    {OFR_ARM_BASE_PREL, "OFR_ARM_BASE_PREL", 0x4005, 0xffffffff, OFRO_EITHER, 32, 0, 32, 0},
+    {OFR_ARM_PLT32, "OFR_ARM_PLT32", 0x2005, 0xffffffff, OFRO_SIGNED, 25, 0, 32, 1},
+    {OFR_ARM_CALL, "OFR_ARM_CALL", 0x2005, 0xffffffff, OFRO_SIGNED, 25, 0, 32, 1},
+    {OFR_ARM_JUMP24, "OFR_ARM_JUMP24", 0x2005, 0xffffffff, OFRO_SIGNED, 25, 0, 32, 1},
+    {OFR_ARM_THM_JUMP24, "OFR_ARM_THM_JUMP24", 0x6005, 0xffffffff, OFRO_SIGNED, 24, 0, 32, 1},
+    {OFR_ARM_BASE_ABS, "OFR_ARM_BASE_ABS", 0x4004, 0xffffffff, OFRO_EITHER, 32, 0, 32, 0},
+    {OFR_ARM_LDR_SBREL_11_0_NC, "OFR_ARM_LDR_SBREL_11_0_NC", 0x8004, 0xffffffff, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_ALU_SBREL_19_12_NC, "OFR_ARM_ALU_SBREL_19_12_NC", 0x8004, 0xffffffff, OFRO_SIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_SBREL_27_20_CK, "OFR_ARM_ALU_SBREL_27_20_CK", 0x8004, 0xffffffff, OFRO_SIGNED, 32, 0, 32, 0},
+    {OFR_ARM_TARGET1, "OFR_ARM_TARGET1", 0x4004, 0xffffffff, OFRO_EITHER, 32, 0, 32, 0},
+    {OFR_ARM_SBREL31, "OFR_ARM_SBREL31", 0xc004, 0xffffffff, OFRO_EITHER, 31, 0, 32, 0},
+    {OFR_ARM_V4BX, "OFR_ARM_V4BX", 0x80, 0xffffffff, OFRO_NONE, 0, 0, 0, 0},
+    {OFR_ARM_TARGET2, "OFR_ARM_TARGET2", 0x4004, 0xffffffff, OFRO_EITHER, 32, 0, 32, 0},
+    {OFR_ARM_PREL31, "OFR_ARM_PREL31", 0x5, 0xffffffff, OFRO_SIGNED, 31, 0, 32, 0},
+    {OFR_ARM_MOVW_ABS_NC, "OFR_ARM_MOVW_ABS_NC", 0x4004, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 0},
+    {OFR_ARM_MOVT_ABS, "OFR_ARM_MOVT_ABS", 0x804, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 16},
+    {OFR_ARM_MOVW_PREL_NC, "OFR_ARM_MOVW_PREL_NC", 0x4005, 0xffffffff, OFRO_EITHER, 16, 0, 32, 0},
+    {OFR_ARM_MOVT_PREL, "OFR_ARM_MOVT_PREL", 0x5, 0xffffffff, OFRO_EITHER, 16, 0, 32, 16},
+    {OFR_ARM_THM_MOVW_ABS_NC, "OFR_ARM_THM_MOVW_ABS_NC", 0x4004, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 0},
+    {OFR_ARM_THM_MOVT_ABS, "OFR_ARM_THM_MOVT_ABS", 0x4804, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 16},
+    {OFR_ARM_THM_MOVW_PREL_NC, "OFR_ARM_THM_MOVW_PREL_NC", 0x4005, 0xffffffff, OFRO_EITHER, 16, 0, 32, 0},
+    {OFR_ARM_THM_MOVT_PREL, "OFR_ARM_THM_MOVT_PREL", 0x4005, 0xffffffff, OFRO_EITHER, 16, 0, 32, 16},
+    {OFR_ARM_THM_JUMP19, "OFR_ARM_THM_JUMP19", 0x2005, 0xffffffff, OFRO_SIGNED, 20, 0, 32, 1},
+    {OFR_ARM_THM_JUMP6, "OFR_ARM_THM_JUMP6", 0x5, 0xffffffff, OFRO_SIGNED, 6, 0, 16, 1},
+    {OFR_ARM_THM_ALU_PREL_11_0, "OFR_ARM_THM_ALU_PREL_11_0", 0x4005, 0xfffffffc, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_THM_PC12, "OFR_ARM_THM_PC12", 0x5, 0xfffffffc, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_ABS32_NOI, "OFR_ARM_ABS32_NOI", 0x4004, 0xffffffff, OFRO_EITHER, 32, 0, 32, 0},
+    {OFR_ARM_REL32_NOI, "OFR_ARM_REL32_NOI", 0x4005, 0xffffffff, OFRO_SIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_PC_G0_NC, "OFR_ARM_ALU_PC_G0_NC", 0x4005, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_PC_G0, "OFR_ARM_ALU_PC_G0", 0x4005, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_PC_G1_NC, "OFR_ARM_ALU_PC_G1_NC", 0x4005, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_PC_G1, "OFR_ARM_ALU_PC_G1", 0x4005, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_PC_G2, "OFR_ARM_ALU_PC_G2", 0x4005, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_LDR_PC_G1, "OFR_ARM_LDR_PC_G1", 0x4005, 0xffffffff, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_LDR_PC_G2, "OFR_ARM_LDR_PC_G2", 0x4005, 0xffffffff, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_LDRS_PC_G0, "OFR_ARM_LDRS_PC_G0", 0x4005, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 0},
+    {OFR_ARM_LDRS_PC_G1, "OFR_ARM_LDRS_PC_G1", 0x4005, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 0},
+    {OFR_ARM_LDRS_PC_G2, "OFR_ARM_LDRS_PC_G2", 0x4005, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 0},
+    {OFR_ARM_LDC_PC_G0, "OFR_ARM_LDC_PC_G0", 0x4005, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 2},
+    {OFR_ARM_LDC_PC_G1, "OFR_ARM_LDC_PC_G1", 0x4005, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 2},
+    {OFR_ARM_LDC_PC_G2, "OFR_ARM_LDC_PC_G2", 0x4005, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 2},
+    {OFR_ARM_ALU_SB_G0_NC, "OFR_ARM_ALU_SB_G0_NC", 0xc004, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_SB_G0, "OFR_ARM_ALU_SB_G0", 0xc004, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_SB_G1_NC, "OFR_ARM_ALU_SB_G1_NC", 0xc004, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_SB_G1, "OFR_ARM_ALU_SB_G1", 0xc004, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_ALU_SB_G2, "OFR_ARM_ALU_SB_G2", 0xc004, 0xffffffff, OFRO_UNSIGNED, 32, 0, 32, 0},
+    {OFR_ARM_LDR_SB_G0, "OFR_ARM_LDR_SB_G0", 0xc004, 0xffffffff, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_LDR_SB_G1, "OFR_ARM_LDR_SB_G1", 0xc004, 0xffffffff, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_LDR_SB_G2, "OFR_ARM_LDR_SB_G2", 0xc004, 0xffffffff, OFRO_SIGNED, 13, 0, 32, 0},
+    {OFR_ARM_LDRS_SB_G0, "OFR_ARM_LDRS_SB_G0", 0xc004, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 0},
+    {OFR_ARM_LDRS_SB_G1, "OFR_ARM_LDRS_SB_G1", 0xc004, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 0},
+    {OFR_ARM_LDRS_SB_G2, "OFR_ARM_LDRS_SB_G2", 0xc004, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 0},
+    {OFR_ARM_LDC_SB_G0, "OFR_ARM_LDC_SB_G0", 0xc004, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 2},
+    {OFR_ARM_LDC_SB_G1, "OFR_ARM_LDC_SB_G1", 0xc004, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 2},
+    {OFR_ARM_LDC_SB_G2, "OFR_ARM_LDC_SB_G2", 0xc004, 0xffffffff, OFRO_SIGNED, 9, 0, 32, 2},
+    {OFR_ARM_MOVW_BREL_NC, "OFR_ARM_MOVW_BREL_NC", 0xc004, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 0},
+    {OFR_ARM_MOVT_BREL, "OFR_ARM_MOVT_BREL", 0x8004, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 16},
+    {OFR_ARM_MOVW_BREL, "OFR_ARM_MOVW_BREL", 0x8004, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 0},
+    {OFR_ARM_THM_MOVW_BREL_NC, "OFR_ARM_THM_MOVW_BREL_NC", 0xc004, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 0},
+    {OFR_ARM_THM_MOVT_BREL, "OFR_ARM_THM_MOVT_BREL", 0xc004, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 16},
+    {OFR_ARM_THM_MOVW_BREL, "OFR_ARM_THM_MOVW_BREL", 0x8004, 0xffffffff, OFRO_UNSIGNED, 16, 0, 32, 0},
+    {OFR_ARM_PLT32_ABS, "OFR_ARM_PLT32_ABS", 0x6004, 0xffffffff, OFRO_EITHER, 32, 0, 32, 0},
+    {OFR_ARM_GOT_ABS, "OFR_ARM_GOT_ABS", 0x4004, 0xffffffff, OFRO_EITHER, 32, 0, 32, 0},
+    {OFR_ARM_GOT_PREL, "OFR_ARM_GOT_PREL", 0x24005, 0xffffffff, OFRO_EITHER, 32, 0, 32, 0},
+    {OFR_ARM_THM_JUMP11, "OFR_ARM_THM_JUMP11", 0x2005, 0xffffffff, OFRO_SIGNED, 11, 0, 16, 1},
+    {OFR_ARM_THM_JUMP8, "OFR_ARM_THM_JUMP8", 0x5, 0xffffffff, OFRO_SIGNED, 8, 0, 16, 1},
+    {OFR_ARM_THM_ALU_ABS_G0_NC, "OFR_ARM_THM_ALU_ABS_G0_NC", 0x4004, 0xffffffff, OFRO_UNSIGNED, 8, 0, 16, 0},
+    {OFR_ARM_THM_ALU_ABS_G1_NC, "OFR_ARM_THM_ALU_ABS_G1_NC", 0x4004, 0xffffffff, OFRO_UNSIGNED, 8, 0, 16, 8},
+    {OFR_ARM_THM_ALU_ABS_G2_NC, "OFR_ARM_THM_ALU_ABS_G2_NC", 0x4004, 0xffffffff, OFRO_UNSIGNED, 8, 0, 16, 16},
+    {OFR_ARM_THM_ALU_ABS_G3, "OFR_ARM_THM_ALU_ABS_G3", 0x804, 0xffffffff, OFRO_UNSIGNED, 8, 0, 16, 24},
+    {~0u, nullptr, 0, 0, 0, 0, 0, 0, 0},
+};
+
+// Numbers of the ARM ELF ABI.
+const OF_RELOC_TYPE_ROW OF_ARM_ELF_RELOC_TYPE_DB[] = {
+    {"R_ARM_NONE", 0, OFR_NONE},
+    {"R_ARM_PC24", 1, OFR_ARM_PC24},
+    {"R_ARM_ABS32", 2, OFR_RELLONG},
+    {"R_ARM_REL32", 3, OFR_PCRLONG},
+    {"R_ARM_LDR_PC_G0", 4, OFR_ARM_LDR_PC_G0},
+    {"R_ARM_ABS16", 5, OFR_RELWORD},
+    {"R_ARM_ABS12", 6, OFR_ARM_ABS12},
+    {"R_ARM_THM_ABS5", 7, OFR_ARM_THM_ABS5},
+    {"R_ARM_ABS8", 8, OFR_ARM_ABS8},
+    {"R_ARM_SBREL32", 9, OFR_ARM_SBREL32},
+    {"R_ARM_THM_CALL", 10, OFR_ARM_THM_CALL},
+    {"R_ARM_THM_PC8", 11, OFR_ARM_THM_PC8},
+    {"R_ARM_BREL_ADJ", 12, OFR_NO_TEMPLATE},
+    {"R_ARM_SWI24", 13, OFR_OBSOLETE},
+    {"R_ARM_THM_SWI8", 14, OFR_OBSOLETE},
+    {"R_ARM_XPC25", 15, OFR_OBSOLETE},
+    {"R_ARM_THM_XPC22", 16, OFR_OBSOLETE},
+    {"R_ARM_TLS_DTPMOD32", 17, OFR_NO_TEMPLATE},
+    {"R_ARM_TLS_DTPOFF32", 18, OFR_NO_TEMPLATE},
+    {"R_ARM_TLS_TPOFF32", 19, OFR_NO_TEMPLATE},
+    {"R_ARM_COPY", 20, OFR_NO_TEMPLATE},
+    {"R_ARM_GLOB_DAT", 21, OFR_NO_TEMPLATE},
+    {"R_ARM_JUMP_SLOT", 22, OFR_NO_TEMPLATE},
+    {"R_ARM_RELATIVE", 23, OFR_NO_TEMPLATE},
+    {"R_ARM_GOTOFF32", 24, OFR_NO_TEMPLATE},
+    {"R_ARM_BASE_PREL", 25, OFR_ARM_BASE_PREL},
+    {"R_ARM_GOT_BREL", 26, OFR_NO_TEMPLATE},
+    {"R_ARM_PLT32", 27, OFR_ARM_PLT32},
+    {"R_ARM_CALL", 28, OFR_ARM_CALL},
+    {"R_ARM_JUMP24", 29, OFR_ARM_JUMP24},
+    {"R_ARM_THM_JUMP24", 30, OFR_ARM_THM_JUMP24},
+    {"R_ARM_BASE_ABS", 31, OFR_ARM_BASE_ABS},
+    {"R_ARM_ALU_PCREL_7_0", 32, OFR_OBSOLETE},
+    {"R_ARM_ALU_PCREL_15_8", 33, OFR_OBSOLETE},
+    {"R_ARM_ALU_PCREL_23_15", 34, OFR_OBSOLETE},
+    {"R_ARM_LDR_SBREL_11_0_NC", 35, OFR_ARM_LDR_SBREL_11_0_NC},
+    {"R_ARM_ALU_SBREL_19_12_NC", 36, OFR_ARM_ALU_SBREL_19_12_NC},
+    {"R_ARM_ALU_SBREL_27_20_CK", 37, OFR_ARM_ALU_SBREL_27_20_CK},
+    {"R_ARM_TARGET1", 38, OFR_ARM_TARGET1},
+    {"R_ARM_SBREL31", 39, OFR_ARM_SBREL31},
+    {"R_ARM_V4BX", 40, OFR_ARM_V4BX},
+    {"R_ARM_TARGET2", 41, OFR_ARM_TARGET2},
+    {"R_ARM_PREL31", 42, OFR_ARM_PREL31},
+    {"R_ARM_MOVW_ABS_NC", 43, OFR_ARM_MOVW_ABS_NC},
+    {"R_ARM_MOVT_ABS", 44, OFR_ARM_MOVT_ABS},
+    {"R_ARM_MOVW_PREL_NC", 45, OFR_ARM_MOVW_PREL_NC},
+    {"R_ARM_MOVT_PREL", 46, OFR_ARM_MOVT_PREL},
+    {"R_ARM_THM_MOVW_ABS_NC", 47, OFR_ARM_THM_MOVW_ABS_NC},
+    {"R_ARM_THM_MOVT_ABS", 48, OFR_ARM_THM_MOVT_ABS},
+    {"R_ARM_THM_MOVW_PREL_NC", 49, OFR_ARM_THM_MOVW_PREL_NC},
+    {"R_ARM_THM_MOVT_PREL", 50, OFR_ARM_THM_MOVT_PREL},
+    {"R_ARM_THM_JUMP19", 51, OFR_ARM_THM_JUMP19},
+    {"R_ARM_THM_JUMP6", 52, OFR_ARM_THM_JUMP6},
+    {"R_ARM_THM_ALU_PREL_11_0", 53, OFR_ARM_THM_ALU_PREL_11_0},
+    {"R_ARM_THM_PC12", 54, OFR_ARM_THM_PC12},
+    {"R_ARM_ABS32_NOI", 55, OFR_ARM_ABS32_NOI},
+    {"R_ARM_REL32_NOI", 56, OFR_ARM_REL32_NOI},
+    {"R_ARM_ALU_PC_G0_NC", 57, OFR_ARM_ALU_PC_G0_NC},
+    {"R_ARM_ALU_PC_G0", 58, OFR_ARM_ALU_PC_G0},
+    {"R_ARM_ALU_PC_G1_NC", 59, OFR_ARM_ALU_PC_G1_NC},
+    {"R_ARM_ALU_PC_G1", 60, OFR_ARM_ALU_PC_G1},
+    {"R_ARM_ALU_PC_G2", 61, OFR_ARM_ALU_PC_G2},
+    {"R_ARM_LDR_PC_G1", 62, OFR_ARM_LDR_PC_G1},
+    {"R_ARM_LDR_PC_G2", 63, OFR_ARM_LDR_PC_G2},
+    {"R_ARM_LDRS_PC_G0", 64, OFR_ARM_LDRS_PC_G0},
+    {"R_ARM_LDRS_PC_G1", 65, OFR_ARM_LDRS_PC_G1},
+    {"R_ARM_LDRS_PC_G2", 66, OFR_ARM_LDRS_PC_G2},
+    {"R_ARM_LDC_PC_G0", 67, OFR_ARM_LDC_PC_G0},
+    {"R_ARM_LDC_PC_G1", 68, OFR_ARM_LDC_PC_G1},
+    {"R_ARM_LDC_PC_G2", 69, OFR_ARM_LDC_PC_G2},
+    {"R_ARM_ALU_SB_G0_NC", 70, OFR_ARM_ALU_SB_G0_NC},
+    {"R_ARM_ALU_SB_G0", 71, OFR_ARM_ALU_SB_G0},
+    {"R_ARM_ALU_SB_G1_NC", 72, OFR_ARM_ALU_SB_G1_NC},
+    {"R_ARM_ALU_SB_G1", 73, OFR_ARM_ALU_SB_G1},
+    {"R_ARM_ALU_SB_G2", 74, OFR_ARM_ALU_SB_G2},
+    {"R_ARM_LDR_SB_G0", 75, OFR_ARM_LDR_SB_G0},
+    {"R_ARM_LDR_SB_G1", 76, OFR_ARM_LDR_SB_G1},
+    {"R_ARM_LDR_SB_G2", 77, OFR_ARM_LDR_SB_G2},
+    {"R_ARM_LDRS_SB_G0", 78, OFR_ARM_LDRS_SB_G0},
+    {"R_ARM_LDRS_SB_G1", 79, OFR_ARM_LDRS_SB_G1},
+    {"R_ARM_LDRS_SB_G2", 80, OFR_ARM_LDRS_SB_G2},
+    {"R_ARM_LDC_G0", 81, OFR_ARM_LDC_SB_G0},
+    {"R_ARM_LDC_G1", 82, OFR_ARM_LDC_SB_G1},
+    {"R_ARM_LDC_G2", 83, OFR_ARM_LDC_SB_G2},
+    {"R_ARM_MOVW_BREL_NC", 84, OFR_ARM_MOVW_BREL_NC},
+    {"R_ARM_MOVT_BREL", 85, OFR_ARM_MOVT_BREL},
+    {"R_ARM_MOVW_BREL", 86, OFR_ARM_MOVW_BREL},
+    {"R_ARM_THM_MOVW_BREL_NC", 87, OFR_ARM_THM_MOVW_BREL_NC},
+    {"R_ARM_THM_MOVT_BREL", 88, OFR_ARM_THM_MOVT_BREL},
+    {"R_ARM_THM_MOVW_BREL", 89, OFR_ARM_THM_MOVW_BREL},
+    {"R_ARM_PLT32_ABS", 94, OFR_ARM_PLT32_ABS},
+    {"R_ARM_GOT_ABS", 95, OFR_ARM_GOT_ABS},
+    {"R_ARM_GOT_PREL", 96, OFR_ARM_GOT_PREL},
+    {"R_ARM_GOT_BREL12", 97, OFR_NO_TEMPLATE},
+    {"R_ARM_GOTOFF12", 98, OFR_NO_TEMPLATE},
+    {"R_ARM_GOTRELAX", 99, OFR_NO_TEMPLATE},
+    {"R_ARM_GNU_VTENTRY", 100, OFR_NO_TEMPLATE},
+    {"R_ARM_GNU_VTINHERIT", 101, OFR_NO_TEMPLATE},
+    {"R_ARM_THM_JUMP11", 102, OFR_ARM_THM_JUMP11},
+    {"R_ARM_THM_JUMP8", 103, OFR_ARM_THM_JUMP8},
+    {"R_ARM_TLS_GD32", 104, OFR_NO_TEMPLATE},
+    {"R_ARM_TLS_LDM32", 105, OFR_NO_TEMPLATE},
+    {"R_ARM_TLS_LDO32", 106, OFR_NO_TEMPLATE},
+    {"R_ARM_TLS_IE32", 107, OFR_NO_TEMPLATE},
+    {"R_ARM_TLS_LE32", 108, OFR_NO_TEMPLATE},
+    {"R_ARM_TLS_LDO12", 109, OFR_NO_TEMPLATE},
+    {"R_ARM_TLS_LE12", 110, OFR_NO_TEMPLATE},
+    {"R_ARM_TLS_IE12GP", 111, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_0", 112, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_1", 113, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_2", 114, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_3", 115, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_4", 116, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_5", 117, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_6", 118, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_7", 119, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_8", 120, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_9", 121, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_10", 122, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_11", 123, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_12", 124, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_13", 125, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_14", 126, OFR_NO_TEMPLATE},
+    {"R_ARM_PRIVATE_15", 127, OFR_NO_TEMPLATE},
+    {"R_ARM_ME_TOO", 128, OFR_OBSOLETE},
+    {"R_ARM_THM_ALU_ABS_G0_NC", 132, OFR_ARM_THM_ALU_ABS_G0_NC},
+    {"R_ARM_THM_ALU_ABS_G1_NC", 133, OFR_ARM_THM_ALU_ABS_G1_NC},
+    {"R_ARM_THM_ALU_ABS_G2_NC", 134, OFR_ARM_THM_ALU_ABS_G2_NC},
+    {"R_ARM_THM_ALU_ABS_G3", 135, OFR_ARM_THM_ALU_ABS_G3},
+    {nullptr, ~0u, 0},
+};
+
+// ---- the shared table ------------------------------------------------------
+
+void OF_RELOC_TYPE_TABLE::add_template(const OF_RELOC_TEMPLATE &t)
+{
+    templates_m[t.id] = std::make_unique<OF_RELOC_TEMPLATE>(t);
+}
+
+bool OF_RELOC_TYPE_TABLE::add_type(const OF_RELOC_TYPE_ROW &row)
+{
+    const OF_RELOC_TEMPLATE *tmpl = nullptr;
+    bool found = true;
+    if (row.template_id >= 0x100) {
+        tmpl = find_template(row.template_id);
+        found = tmpl != nullptr;
+    }
+    types_m.push_back(std::make_unique<OF_RELOC_TYPE>(row.name, row.number, row.template_id, tmpl));
+    const OF_RELOC_TYPE *t = types_m.back().get();
+    if (tmpl) by_id_m.emplace(row.template_id, t);
+    by_number_m.emplace(row.number, t);
+    return found;
+}
+
+const OF_RELOC_TEMPLATE *OF_RELOC_TYPE_TABLE::find_template(uint32_t id) const
+{
+    auto it = templates_m.find(id);
+    return it == templates_m.end() ? nullptr : it->second.get();
+}
+
+const OF_RELOC_TYPE *OF_RELOC_TYPE_TABLE::by_template_id(uint32_t id) const
+{
+    auto it = by_id_m.find(id);
+    return it == by_id_m.end() ? nullptr : it->second;
+}
+
+const OF_RELOC_TYPE *OF_RELOC_TYPE_TABLE::by_template_name(const char *name) const
+{
+    for (const auto &[id, type] : by_id_m)
+        if (std::strcmp(type->template_name(), name) == 0) return type;
+    return nullptr;
+}
+
+const OF_RELOC_TYPE *OF_RELOC_TYPE_TABLE::by_number(uint32_t number) const
+{
+    auto it = by_number_m.find(number);
+    return it == by_number_m.end() ? nullptr : it->second;
+}
+
+const OF_RELOC_TYPE *invalid_reloc_type()
+{
+    static const OF_RELOC_TYPE invalid("R_INVALID", 0, OFR_NO_TEMPLATE, nullptr);
+    return &invalid;
+}
+
+}  // namespace OFE

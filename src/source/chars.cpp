@@ -1,0 +1,122 @@
+// The character layer: the reading position in the current line.
+#include <cctype>
+#include <cstring>
+
+#include "driver/diag.h"
+#include "source/lexer.h"
+#include "source/lexer_internal.h"
+#include "source/macro.h"
+#include "support/memory.h"
+
+char *inbuf = nullptr;
+uint32_t inbuf_len = 0;
+uint32_t inbuf_uid = 0;
+char ch = ' ';
+uint32_t chtyp = CH_EOL;
+int32_t chpos = -1;
+
+uint32_t LEX_classify(char c) {
+  const auto u = static_cast<unsigned char>(c);
+  if (u & 0x80) return CH_OTHER;
+  if (std::isspace(u)) return CH_SPACE;
+  if (std::isalpha(u) || c == '_' || c == '$') return CH_ALPHA;
+  if (std::isdigit(u)) return CH_DIGIT;
+  return CH_OTHER;
+}
+
+char LEX_peek(int32_t pos) {
+  if (!inbuf || pos < 0 || pos >= static_cast<int32_t>(inbuf_len)) return 0;
+  return inbuf[pos];
+}
+
+void LEX_reset() {
+  ch = ' ';
+  chtyp = CH_EOL;
+  chpos = -1;
+}
+
+void LEX_inbuf_update(char *text, short length) {
+  inbuf = text;
+  inbuf_len = length < 0 ? 0 : static_cast<uint32_t>(length);
+}
+
+void getch() {
+  const auto len = static_cast<int32_t>(inbuf ? inbuf_len : 0);
+  if (chpos < len) ++chpos;
+  if (chpos >= len) {
+    ch = ' ';
+    chtyp = CH_EOL;
+    return;
+  }
+  ch = inbuf[chpos];
+  chtyp = LEX_classify(ch);
+}
+
+void LEX_drop_line() {
+  ch = ' ';
+  chtyp = CH_EOL;
+  chpos = inbuf_len ? static_cast<int32_t>(inbuf_len) - 1 : 0;
+}
+
+void nextch() {
+  getch();
+  if (chtyp == CH_EOL) return;
+  const bool first = chpos == 0;
+  if (ch == ';' || (first && (ch == '*' || (ch == '!' && MAC_lvl >= 0)))) LEX_drop_line();
+}
+
+void LEX_setpos(int32_t pos) {
+  chpos = pos - 1;
+  getch();
+}
+
+void ungetch() {
+  if (chpos <= 0 || !inbuf) {
+    error_internal(1, curline, "can't unget first character in buffer");
+    return;
+  }
+  --chpos;
+  ch = inbuf[chpos];
+  chtyp = LEX_classify(ch);
+}
+
+void skip_to_nextch() {
+  while (chtyp == CH_SPACE) nextch();
+}
+
+void skip_to_space() {
+  while (chtyp != CH_SPACE && chtyp != CH_EOL) nextch();
+}
+
+char curch() { return ch; }
+int curchpos() { return chpos; }
+
+char *strupper(char *s) {
+  for (char *p = s; p && *p; ++p) *p = static_cast<char>(std::toupper(static_cast<unsigned char>(*p)));
+  return s;
+}
+
+void strupper(std::string &s) {
+  for (char &c : s) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+}
+
+char *strlower(char *s) {
+  for (char *p = s; p && *p; ++p) *p = static_cast<char>(std::tolower(static_cast<unsigned char>(*p)));
+  return s;
+}
+
+char *strip_escape(char *s) {
+  if (!s) return s;
+  char *out = s;
+  for (const char *in = s; *in; ++in)
+    if (*in != '|') *out++ = *in;
+  *out = '\0';
+  return s;
+}
+
+char *LEX_strdup(const std::string &s) {
+  auto *p = static_cast<char *>(safemalloc(s.size() + 1));
+  std::memcpy(p, s.data(), s.size());
+  p[s.size()] = '\0';
+  return p;
+}

@@ -1,0 +1,86 @@
+// Identifiers: names, scoped names (name? and $n) and built-in function names.
+#include <cctype>
+#include <cstdio>
+#include <string>
+
+#include "expr/symbols.h"
+#include "listing/listing.h"
+#include "source/lexer.h"
+#include "source/lexer_internal.h"
+#include "source/macro.h"
+#include "source/ophash.h"
+#include "source/subsym.h"
+
+namespace {
+
+std::string &name_buffer() {
+  static std::string buf = [] {
+    std::string s;
+    s.reserve(500);
+    return s;
+  }();
+  return buf;
+}
+
+void append_number(std::string &name, const char *fmt, int32_t n) {
+  char text[32];
+  std::snprintf(text, sizeof text, fmt, n);
+  name += text;
+}
+
+}  // namespace
+
+token *LEX_ident(int32_t column) {
+  std::string &name = name_buffer();
+  name.clear();
+  if (ch == '.') {
+    name += '.';
+    getch();
+  }
+  while (chtyp == CH_ALPHA || chtyp == CH_DIGIT || ch == '\'') {
+    name += ch;
+    getch();
+  }
+
+  const bool in_macro = MAC_lvl >= 0;
+  bool renamed = false;
+  if (ch == '?' && chtyp != CH_EOL) {
+    getch();
+    if (in_macro) append_number(name, "$%d$", mac_loclbl_cnt);
+    else append_number(name, "$%d", file_loclbl_cnt);
+    renamed = true;
+  }
+
+  if (name == "$") {
+    token *tk = LEX_newtkn(TK_SPC, column);
+    tk->length = 1;
+    return tk;
+  }
+  const bool local_label = name.size() == 2 && name[0] == '$' && std::isdigit(static_cast<unsigned char>(name[1]));
+  if (local_label) {
+    if (in_macro) append_number(name, "_$%d$", mac_loclbl_cnt);
+    else append_number(name, "_$%d", file_loclbl_cnt);
+    renamed = true;
+  }
+
+  if (renamed && in_macro && subsym_expand == 1) {
+    // The listing shows the scoped name, and the lexer reads it from the line.
+    LST_expand(static_cast<short>(column), static_cast<short>(chpos), name, static_cast<short>(name.size()));
+    return nullptr;
+  }
+
+  if (name[0] == '$' && !local_label) {
+    ophashtbl *entry = findop(name);
+    if (entry && entry->kind == OPTYPE_BUILTIN) {
+      token *tk = LEX_newtkn(TK_INTRINSIC, column);
+      tk->length = static_cast<uint16_t>(name.size());
+      tk->value.op = entry;
+      return tk;
+    }
+  }
+
+  token *tk = LEX_newtkn(TK_IDENT, column);
+  tk->length = static_cast<uint16_t>(name.size());
+  tk->value.sval = LEX_strdup(name);
+  return tk;
+}

@@ -1,0 +1,82 @@
+// The opcode hash table and the one hash function of the name tables.
+#include <cctype>
+#include <cstdint>
+
+#include "driver/options.h"
+#include "driver/pipeline.h"
+#include "expr/bif_table.h"
+#include "source/lexer.h"
+#include "source/ophash.h"
+#include "target/arm/opcodes.h"
+
+ophashtbl *ophash[HASH_SIZE + 1] = {};
+
+int hash(const std::string &s) {
+  const bool fold = opt_on(OPT_SYMS_IGNORE_CASE);
+  uint32_t h = 0xFFFFFFFFu;
+  for (char c : s) {
+    if (fold) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    h = (h << 7) | (h >> 25);
+    h ^= static_cast<uint32_t>(static_cast<int32_t>(static_cast<signed char>(c)));
+  }
+  return static_cast<int>(h % HASH_SIZE);
+}
+
+ophashtbl *entophash(ophashtbl *entry) {
+  const int h = hash(entry->name);
+  entry->next = ophash[h];
+  ophash[h] = entry;
+  return entry;
+}
+
+ophashtbl *new_ophash(const std::string &name, uint32_t kind, void *row) {
+  auto *e = new ophashtbl{nullptr, kind, row, name};
+  strupper(e->name);
+  return entophash(e);
+}
+
+void delophash(ophashtbl *entry) {
+  if (!entry) return;
+  for (ophashtbl **link = &ophash[hash(entry->name)]; *link; link = &(*link)->next) {
+    if (*link == entry) {
+      *link = entry->next;
+      delete entry;
+      return;
+    }
+  }
+}
+
+ophashtbl *findop(std::string name) {
+  strupper(name);
+  for (ophashtbl *e = ophash[hash(name)]; e; e = e->next) {
+    if (e->name != name) continue;
+    if (e->kind == OPTYPE_MNEMONIC) {
+      const auto *row = e->mnemonic();
+      if (encode_state > STATE_THUMB2_REG || !row->slot[encode_state].cls) continue;
+    }
+    return e;
+  }
+  return nullptr;
+}
+
+void enter_dirtbl(const dir_oprec *table) {
+  for (const dir_oprec *row = table; row && row->name; ++row)
+    new_ophash(row->name, OPTYPE_DIRECTIVE, const_cast<dir_oprec *>(row));
+}
+
+void enter_instrtbl(const mnemonic_row *table) {
+  for (const mnemonic_row *row = table; row && row->name; ++row)
+    new_ophash(row->name, OPTYPE_MNEMONIC, const_cast<mnemonic_row *>(row));
+}
+
+void enter_fcntbl(const bifcn_oprec *table) {
+  for (const bifcn_oprec *row = table; row && row->name; ++row)
+    new_ophash(row->name, OPTYPE_BUILTIN, const_cast<bifcn_oprec *>(row));
+}
+
+void init_ophash() {
+  enter_dirtbl(gen_direct);
+  enter_dirtbl(trg_direct);
+  enter_instrtbl(trg_mnemonics);
+  enter_fcntbl(built_in_fcns);
+}

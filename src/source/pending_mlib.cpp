@@ -1,0 +1,6 @@
+// Interim handler of .mlib; the macro libraries step makes it real.
+
+#include "source/mlib.h"
+#include "driver/pending.h"
+
+[[gnu::weak]] void MLIB_include(instruct *ir) { DIR_not_supported(ir); }

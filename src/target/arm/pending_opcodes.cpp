@@ -1,0 +1,24 @@
+// Interim instruction tables: an empty mnemonic table, so every word that is
+// no directive is "not a mnemonic". The instruction tables step makes them real.
+#include "driver/diag.h"
+#include "source/lexer.h"
+#include "target/arm/opcodes.h"
+
+[[gnu::weak]] extern const mnemonic_row trg_mnemonics[] = {{nullptr, {}}};
+[[gnu::weak]] uint32_t encode_state = 0;
+[[gnu::weak]] uint8_t ual_mode = 1;
+
+// No architecture is selected before the target state lands.
+[[gnu::weak]] bool arch_is_v6_or_higher() { return false; }
+[[gnu::weak]] bool arch_is_v6m0() { return false; }
+
+// With no mnemonic rows a translated name finds nothing either.
+[[gnu::weak]] std::string ual_translate_name(const std::string &name) { return name; }
+[[gnu::weak]] bool has_mext_prefix(const char *, int *length_out) {
+  if (length_out) *length_out = 0;
+  return false;
+}
+// Reached only through a mnemonic row, and there are none yet.
+[[gnu::weak]] void parse_simd_suffix(const mnemonic_row *row) {
+  error_internal(1, curline, "SIMD suffix of %s without the instruction tables", row ? row->name : "?");
+}

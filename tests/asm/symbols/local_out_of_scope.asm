@@ -1,0 +1,7 @@
+; A local label used after its scope has ended names another symbol, which
+; stays undefined and is listed at the end.
+        .text
+$1:     .word   1
+        .newblock
+        .word   $1
+; EOF! E0300 The following symbols are undefined: $1_$2

@@ -1,0 +1,249 @@
+// Expressions from source text to checked values: operators and precedence,
+// widths, floats, messages.
+#include <cstring>
+
+#include "expr_fixture.h"
+#include "support/memory.h"
+
+namespace {
+
+struct int_case {
+  const char *text;
+  int64_t value;
+};
+
+TEST_F(ExprTest, IntegerOperatorsAndPrecedence) {
+  const int_case cases[] = {
+      {"1 + 2 * 3", 7},       {"1 << 2 + 1", 8},      {"1 | 2 ^ 3", 1},      {"6 & 3 | 8", 10},
+      {"8 / 2 / 2", 2},       {"1 - 2 - 3", -4},      {"(1 + 2) * 3", 9},    {"2 * 3 % 4", 2},
+      {"-7 / 2", -3},         {"-5 % 3", -2},         {"7 % -3", 1},         {"~0", -1},
+      {"!0", 1},              {"!5", 0},              {"- -4", 4},           {"+3", 3},
+      {"-8 >> 1", -4},        {"1 << 4 >> 2", 4},     {"3 == 3", 1},         {"3 = 4", 0},
+      {"2 != 3", 1},          {"2 <> 2", 0},          {"2 < 3", 1},          {"3 <= 3", 1},
+      {"2 > 3", 0},           {"-1 >= 0", 0},         {"1 + 2 == 3", 1},     {"1 < 2 == 1", 1},
+      {"'A'", 65},            {"'AB'", 0x4241},       {"\"abc\"", 0},        {"0x10 * 10h", 256},
+      {"(((7)))", 7},         {"1 << 2 < 3", 0},      {"~1 & 0xF", 14},      {"5 ^ 1 == 1", 4},
+  };
+  for (const int_case &c : cases) {
+    value_record *v = eval(c.text, EXPR_MODE_RELOC, 64);
+    EXPECT_EQ(v->v_type, VT_ICON) << c.text;
+    EXPECT_EQ(v->v_val, xi_from_i64(c.value)) << c.text << " gave " << v->v_val.to_string();
+    EXPECT_EQ(v->v_known, 1) << c.text;
+    EXPECT_EQ(out, "") << c.text;
+    EXPECT_EQ(stop_kind, TK_EOL) << c.text;
+    E_freeval(v);
+  }
+}
+
+TEST_F(ExprTest, ConstantsKeepTheirKind) {
+  value_record *v = eval("'A'");
+  EXPECT_EQ(v->v_flags, VF_CHAR);
+  EXPECT_EQ(v->v_bits, 7);
+  E_freeval(v);
+
+  v = eval("\"ab;c\"");
+  EXPECT_EQ(v->v_type, VT_ICON);
+  ASSERT_NE(v->v_str, nullptr);
+  EXPECT_STREQ(v->v_str, "ab;c");
+  E_freeval(v);
+
+  // The parser stops at what can't continue an expression; the caller looks.
+  v = eval("1 + 2, 3");
+  EXPECT_EQ(v->v_val, xi_from_int(3));
+  EXPECT_EQ(stop_kind, TK_COMMA);
+  E_freeval(v);
+  v = eval("4 5");
+  EXPECT_EQ(v->v_val, xi_from_int(4));
+  EXPECT_EQ(stop_kind, TK_ICON);
+  E_freeval(v);
+}
+
+TEST_F(ExprTest, WidthCheckTruncatesWithAWarning) {
+  struct width_case {
+    const char *text;
+    uint32_t width;
+    int64_t value;
+    uint16_t bits;
+    uint16_t flags;
+    bool warned;
+  };
+  const width_case cases[] = {
+      {"-128", 8, -128, 8, VF_NEGCONST, false}, {"255", 8, 255, 8, 0, false},
+      {"256", 8, 0, 8, 0, true},                {"-129", 8, 0x7F, 8, 0, true},
+      {"0", 8, 0, 1, 0, false},                 {"-1", 1, -1, 1, VF_NEGCONST, false},
+      {"0xFFFFFFFF", 32, 0xFFFFFFFF, 32, 0, false}, {"0x1FFFFFFFF", 32, 0xFFFFFFFF, 32, 0, true},
+      {"-0x80000000", 32, -0x80000000LL, 32, VF_NEGCONST, false},
+  };
+  for (const width_case &c : cases) {
+    value_record *v = eval(c.text, EXPR_MODE_RELOC, c.width);
+    EXPECT_EQ(v->v_val, xi_from_i64(c.value)) << c.text;
+    EXPECT_EQ(v->v_bits, c.bits) << c.text;
+    EXPECT_EQ(v->v_flags, c.flags) << c.text;
+    std::string warning = "Constant value out of range, will be truncated to " + std::to_string(c.width) + " bits";
+    EXPECT_EQ(shown(out, "W0001", warning), c.warned) << c.text << ": " << out;
+    E_freeval(v);
+  }
+}
+
+TEST_F(ExprTest, FloatingValues) {
+  simul_fval expect;
+  value_record *v = eval("1.5 + 1", EXPR_MODE_ANY);
+  ASSERT_EQ(v->v_type, VT_FCON);
+  f_atof("2.5", &expect);
+  EXPECT_TRUE(f_eq(v->v_fval, &expect));
+  E_freeval(v);
+
+  v = eval("-(2.0 * 1.5) / 2", EXPR_MODE_ANY);
+  ASSERT_EQ(v->v_type, VT_FCON);
+  f_atof("-1.5", &expect);
+  EXPECT_TRUE(f_eq(v->v_fval, &expect));
+  E_freeval(v);
+
+  const int_case truth[] = {{"1.5 < 2", 1}, {"2 == 2.0", 1}, {"!0.0", 1}, {"!0.5", 0}, {"1.0 != 1.0", 0}};
+  for (const int_case &c : truth) {
+    v = eval(c.text, EXPR_MODE_ANY);
+    EXPECT_EQ(v->v_type, VT_ICON) << c.text;
+    EXPECT_EQ(v->v_val, xi_from_i64(c.value)) << c.text;
+    E_freeval(v);
+  }
+
+  // A float is required: an integer becomes one.
+  v = eval("3", EXPR_MODE_FLOAT);
+  ASSERT_EQ(v->v_type, VT_FCON);
+  f_itof(3, &expect);
+  EXPECT_TRUE(f_eq(v->v_fval, &expect));
+  E_freeval(v);
+  EXPECT_EQ(out, "");
+}
+
+struct bad_case {
+  const char *text;
+  const char *id;
+  const char *message;
+  uint32_t flags;
+};
+
+TEST_F(ExprTest, MessagesOfBadExpressions) {
+  label("lab1", scn_a, 0x10);
+  label("lab3", scn_b, 0x10);
+  symbol_record *r0 = SYM_find("r0");
+  value_record reg;
+  E_clrval(&reg);
+  reg.v_type = VT_REG;
+  SYM_define(r0, &reg);
+  const bad_case cases[] = {
+      {"", "E0200", "Bad term in expression", EXPR_MODE_RELOC},
+      {")", "E0200", "Bad term in expression", EXPR_MODE_RELOC},
+      {"1 +", "E0200", "Binary operator can't be applied", EXPR_MODE_RELOC},
+      {"2 * , 3", "E0200", "Binary operator can't be applied", EXPR_MODE_RELOC},
+      {"-", "E0200", "Unary operator can't be applied", EXPR_MODE_RELOC},
+      {"(1 + 2", "E0000", "No matching right parenthesis", EXPR_MODE_RELOC},
+      {"((1)", "E0000", "No matching right parenthesis", EXPR_MODE_RELOC},
+      {"1.5 % 2", "E0201", "Invalid floating-point operation", EXPR_MODE_ANY},
+      {"1.5 << 1", "E0201", "Invalid floating-point operation", EXPR_MODE_ANY},
+      {"~1.5", "E0009", "Cannot apply bitwise NOT to floats", EXPR_MODE_ANY},
+      {"1.5 + lab1", "E0201", "Absolute operands required for FP operations", EXPR_MODE_ANY},
+      {"1.5", "E0201", "Illegal floating-point expression", EXPR_MODE_RELOC},
+      {"r0", "E0201", "Floating-point expression required", EXPR_MODE_FLOAT},
+      {"lab1", "E0200", "Invalid immediate expression", EXPR_MODE_FLOAT},
+      {"lab1", "E0200", "Invalid immediate expression", EXPR_INT},
+      {"lab1 == lab3", "E0200", "Operation cannot be performed on given operands", EXPR_MODE_RELOC},
+      {"lab1 < 3", "E0200", "Operation cannot be performed on given operands", EXPR_MODE_RELOC},
+      {"1 / 0", "E0200", "Integer divide by zero", EXPR_MODE_RELOC},
+      {"1 % 0", "E0200", "Integer remainder by zero", EXPR_MODE_RELOC},
+      {"lab1 / 0", "E0200", "Illegal divide by zero", EXPR_MODE_RELOC},
+      {"lab1 % (2 - 2)", "E0200", "Illegal remainder by zero", EXPR_MODE_RELOC},
+      {"1 << 129", "W0001", "Value out of range", EXPR_MODE_RELOC},
+      {"1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * "
+       "1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * "
+       "1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * "
+       "1.0e300 * 1.0e300 * 1.0e300 * 1.0e300",
+       "E0201", "Floating-point overflow", EXPR_MODE_ANY},
+      {"lab1 - lab3", "E0200", "Unable to resolve this relocatable expression", EXPR_MODE_RELOC},
+  };
+  for (const bad_case &c : cases) {
+    value_record *v = eval(c.text, c.flags);
+    EXPECT_TRUE(shown(out, c.id, c.message)) << c.text << " showed: " << out;
+    E_freeval(v);
+  }
+}
+
+TEST_F(ExprTest, OneMessagePerFault) {
+  struct count_case {
+    const char *text;
+    uint32_t type;   // 0: the evaluation failed
+  };
+  const count_case cases[] = {
+      {"1 + (2 *)", 0}, {"-(", 0}, {"((", 0}, {"1 + )", 0}, {"~1.5", 0}, {"1.5 % 2", 0},
+      {"1 / 0", VT_ICON},
+  };
+  for (const count_case &c : cases) {
+    value_record *v = eval(c.text, EXPR_MODE_ANY);
+    EXPECT_EQ(num_errors, 1u) << c.text << ": " << out;
+    EXPECT_EQ(v->v_type, c.type) << c.text;
+    E_freeval(v);
+    num_errors = 0;
+  }
+}
+
+TEST_F(ExprTest, DivisionByZeroLeavesANumber) {
+  constant("x", 5);
+  value_record *v = eval("1 / 0");
+  EXPECT_EQ(v->v_val, xi_from_int(1));
+  E_freeval(v);
+  v = eval("7 % 0");
+  EXPECT_EQ(v->v_val, xi_from_int(7));
+  E_freeval(v);
+  label("lab1", scn_a, 0x10);
+  v = eval("lab1 / 0", EXPR_MODE_RELOC, 128);
+  EXPECT_EQ(v->v_type, VT_ICON);
+  EXPECT_EQ(v->v_val, xi_from_bytes(xi_maxint));
+  E_freeval(v);
+}
+
+TEST_F(ExprTest, PassOneMessagesStayOffTheScreen) {
+  in_pass1();
+  value_record *v = eval("1 / 0");
+  EXPECT_EQ(out, "");
+  E_freeval(v);
+}
+
+TEST_F(ExprTest, NestedEvaluationUsesTheZone) {
+  // A depth-0 result owns its parts and outlives the zone.
+  value_record *v = eval("\"text\"");
+  value_record *copy = E_cpyval(v);
+  E_freeval(v);
+  EXPECT_STREQ(copy->v_str, "text");
+  EXPECT_NE(copy->v_str, nullptr);
+  E_freeval(copy);
+
+  expr_lex_line("2 * 3");
+  ++eval_depth;
+  value_record *inner = EXPR_eval({EXPR_MODE_RELOC, 32, 1});
+  EXPECT_EQ(inner->v_val, xi_from_int(6));
+  EXPECT_EQ(eval_depth, 1);
+  --eval_depth;
+  expr_eval_zone.reset();
+  expr_lex_done();
+}
+
+TEST_F(ExprTest, ValueRecordsCopyTheirParts) {
+  value_record a;
+  E_clrval(&a);
+  EXPECT_EQ(a.v_type, VT_ICON);
+  EXPECT_EQ(a.v_known, 1);
+  EXPECT_EQ(a.v_val, 0);
+  a.v_str = safestrdup("s");
+  a.v_fval = static_cast<simul_fval *>(safemalloc(sizeof(simul_fval)));
+  f_itof(2, a.v_fval);
+  value_record b;
+  E_cpy2val(&b, &a);
+  EXPECT_NE(b.v_str, a.v_str);
+  EXPECT_NE(b.v_fval, a.v_fval);
+  EXPECT_TRUE(f_eq(b.v_fval, a.v_fval));
+  E_freeparts(&a);
+  E_freeparts(&b);
+  EXPECT_EQ(b.v_str, nullptr);
+}
+
+}  // namespace

@@ -1,0 +1,234 @@
+// Pending labels, their definition in both passes, and local-label scopes.
+#include "symbols_fixture.h"
+
+#include "source/lexer.h"
+
+namespace {
+
+using Labels = SymbolsTest;
+
+section_record *const text_scn = reinterpret_cast<section_record *>(0x100);
+section_record *const data_scn = reinterpret_cast<section_record *>(0x200);
+
+std::vector<std::string> pending_names() {
+  std::vector<std::string> out;
+  for (pending_label *p = LBL_current; p; p = p->next) out.push_back(p->name);
+  return out;
+}
+
+TEST_F(Labels, PendingLabelsTakeTheNextStatementsAddress) {
+  curseg = text_scn;
+  test_line l1(1), l2(2);
+  LBL_save_name("first", &l1);
+  LBL_save_name("second", &l2);
+  EXPECT_NE(l1.flags & LNF_LABEL, 0);
+  EXPECT_EQ(pending_names(), (std::vector<std::string>{"second", "first"}));
+
+  curpc = 12;  // the statement aligned the section first
+  LBL_define();
+  EXPECT_EQ(LBL_current, nullptr);
+  for (const char *n : {"first", "second"}) {
+    symbol_record *s = SYM_query(n);
+    ASSERT_NE(s, nullptr) << n;
+    EXPECT_EQ(s->sym_value.v_type, VT_LABEL);
+    EXPECT_EQ(s->sym_value.v_val, xi_from_int(12));
+    EXPECT_EQ(s->sym_value.v_flags, VF_ADDRESS);
+    EXPECT_EQ(s->sym_value.v_bits, 5);
+    EXPECT_EQ(s->sym_value.v_section, text_scn);
+    EXPECT_EQ(s->sym_value.v_symbol, s);
+    EXPECT_EQ(s->sym_section, text_scn);
+    EXPECT_EQ(s->sym_storage, SYM_STOR_LOCAL);
+  }
+  LBL_define();  // nothing pending: nothing happens
+  EXPECT_EQ(num_errors, 0u);
+}
+
+TEST_F(Labels, SaveTakesTheCurrentToken) {
+  test_line ln;
+  char name[] = "lab";
+  token tk{};
+  tk.kind = TK_IDENT;
+  tk.value.sval = name;
+  tk.line = &ln;
+  curtk = &tk;
+  LBL_save();
+  curtk = nullptr;
+  ASSERT_NE(LBL_current, nullptr);
+  EXPECT_EQ(LBL_current->name, "lab");
+  EXPECT_EQ(LBL_current->line, &ln);
+  EXPECT_NE(ln.flags & LNF_LABEL, 0);
+  LBL_free();
+}
+
+TEST_F(Labels, FlushbufKeepsOnlyThisLinesLabel) {
+  curseg = text_scn;
+  test_line l1(1), l2(2), l3(3);
+  LBL_save_name("old", &l1);
+  LBL_save_name("mine", &l2);
+  curpc = 4;
+  LBL_flushbuf(&l2);
+  EXPECT_EQ(pending_names(), std::vector<std::string>{"mine"});
+  EXPECT_EQ(SYM_query("old")->sym_value.v_val, xi_from_int(4));
+  EXPECT_EQ(SYM_query("mine"), nullptr);
+
+  curseg = data_scn;  // a directive moved on to another section
+  curpc = 0;
+  LBL_flushbuf(&l3);
+  EXPECT_EQ(LBL_current, nullptr);
+  EXPECT_EQ(SYM_query("mine")->sym_section, data_scn);
+}
+
+TEST_F(Labels, DroppingPendingLabels) {
+  test_line ln;
+  for (const char *n : {"a", "$C$DW$1", "b", "$C$DW$2", "c"}) LBL_save_name(n, &ln);
+  LBL_free_prefix("$C$DW$");
+  EXPECT_EQ(pending_names(), (std::vector<std::string>{"c", "b", "a"}));
+  LBL_free_current();
+  EXPECT_EQ(pending_names(), (std::vector<std::string>{"b", "a"}));
+  LBL_free();
+  EXPECT_EQ(LBL_current, nullptr);
+  LBL_free_current();  // empty list: nothing to do
+  LBL_define();
+  EXPECT_EQ(SYM_query("a"), nullptr);
+}
+
+TEST_F(Labels, DoubleLabelSilentInPass1ErrorInPass2) {
+  curseg = text_scn;
+  test_line l1(1), l2(5);
+  auto run = [&] {
+    curpc = 0;
+    LBL_save_name("twice", &l1);
+    LBL_define();
+    curpc = 4;
+    LBL_save_name("twice", &l2);
+    LBL_define();
+  };
+  std::string out = screen(run);
+  EXPECT_EQ(out, "");
+  EXPECT_EQ(SYM_query("twice")->sym_value.v_val, xi_from_int(0));
+
+  start_pass2();
+  out = screen(run);
+  // The address check fails as well, but an internal error after a counted
+  // error stays silent, and assembly goes on.
+  EXPECT_TRUE(shown(out, "E0300", "Symbol twice has already been defined")) << out;
+  EXPECT_EQ(out.find("defined differently"), std::string::npos) << out;
+  EXPECT_EQ(num_errors, 1u);
+}
+
+TEST_F(Labels, SecondPassKeepsTheFirstPassValue) {
+  curseg = text_scn;
+  test_line ln;
+  curpc = 8;
+  LBL_save_name("lab", &ln);
+  LBL_define();
+  symbol_record *s = SYM_query("lab");
+  start_pass2();
+  curpc = 8;
+  LBL_save_name("lab", &ln);
+  std::string out = screen([] { LBL_define(); });
+  EXPECT_EQ(out, "");
+  EXPECT_EQ(num_errors, 0u);
+  EXPECT_EQ(s->sym_flags & (SYMF_DECLARED | SYMF_DEFINED), SYMF_DECLARED | SYMF_DEFINED);
+  EXPECT_EQ(s->sym_value.v_val, xi_from_int(8));
+}
+
+TEST_F(Labels, PassConflictIsFatal) {
+  curseg = text_scn;
+  test_line ln;
+  LBL_save_name("moved", &ln);
+  LBL_define();
+  start_pass2();
+  curpc = 2;
+  LBL_save_name("moved", &ln);
+  EXPECT_EXIT(LBL_define(), ::testing::ExitedWithCode(1), "moved defined differently in each pass");
+  LBL_free();
+}
+
+TEST_F(Labels, SectionChangeIsAPassConflict) {
+  curseg = text_scn;
+  test_line ln;
+  LBL_save_name("where", &ln);
+  LBL_define();
+  start_pass2();
+  curseg = data_scn;
+  LBL_save_name("where", &ln);
+  EXPECT_EXIT(LBL_define(), ::testing::ExitedWithCode(1), "where defined differently in each pass");
+  LBL_free();
+}
+
+TEST_F(Labels, LabelOfAnExternalOnlyInPass2) {
+  curseg = text_scn;
+  SYM_global(SYM_find("ext"));
+  start_pass2();
+  test_line ln(9);
+  LBL_save_name("ext", &ln);
+  std::string out = screen([] { LBL_define(); });
+  EXPECT_TRUE(shown(out, "E0300", "ext is operand to both .ref and .def")) << out;
+}
+
+TEST_F(Labels, KeywordAsLabel) {
+  const sym_init rows[] = {{"KW", 1, VT_KEYWORD}, {nullptr, 0, 0}};
+  init_keywords(rows);
+  test_line ln;
+  start_pass2();
+  LBL_save_name("KW", &ln);
+  std::string out = screen([] { LBL_define(); });
+  EXPECT_TRUE(shown(out, "E0300", "KW is a reserved identifier")) << out;
+}
+
+TEST_F(Labels, LabelAloneOnItsLineShowsItsAddress) {
+  curseg = text_scn;
+  test_line alone(1), with_statement(2);
+  auto define_both = [&] {
+    curpc = 16;
+    LBL_save_name("alone", &alone);
+    LBL_save_name("stmt", &with_statement);
+    with_statement.flags &= static_cast<uint16_t>(~LNF_LABEL);  // IR_build saw a statement
+    LBL_define();
+  };
+  define_both();
+  EXPECT_EQ(alone.object, nullptr);  // pass 1 lists nothing
+  start_pass2();
+  define_both();
+  ASSERT_NE(alone.object, nullptr);
+  EXPECT_EQ(alone.object->address, 16u);
+  EXPECT_EQ(alone.object->count, 4);
+  EXPECT_EQ(alone.flags & LNF_OBJECT, 0);
+  EXPECT_EQ(with_statement.object, nullptr);
+  EXPECT_NE(with_statement.flags & LNF_OBJECT, 0);
+}
+
+TEST_F(Labels, LabelKeepsTheCodeState) {
+  test_line ln;
+  cur_state = 2;
+  LBL_save_name("thumb", &ln);
+  LBL_define();
+  EXPECT_EQ(SYM_query("thumb")->sym_state, 2u);
+}
+
+TEST_F(Labels, LocalLabelScopes) {
+  LOCLBL_init();
+  EXPECT_EQ(file_loclbl_cnt, 0);
+  LOCLBL_flush();
+  LOCLBL_flush();
+  EXPECT_EQ(file_loclbl_cnt, 2);
+  curpc = 40;
+  LOCLBL_block_start();
+  EXPECT_EQ(local_block_start, 40u);
+
+  // The lexer's names of `$1` in two scopes are two symbols; a reference out
+  // of scope stays undefined and is reported at the end.
+  curseg = text_scn;
+  test_line ln;
+  LBL_save_name("$1_$2", &ln);
+  LBL_define();
+  LOCLBL_flush();
+  SYM_find("$1_$" + std::to_string(file_loclbl_cnt));
+  pass1 = pass2 = 0;
+  std::string out = screen([] { SYM_checkdefs(); });
+  EXPECT_NE(out.find("  $1_$3\n"), std::string::npos) << out;
+  EXPECT_EQ(out.find("  $1_$2\n"), std::string::npos) << out;
+}
+
+}  // namespace
