@@ -171,9 +171,7 @@ void DIR_skip_to_comma() {
   while (!at_separator()) next_token();
 }
 
-void DIR_skip_to_eol() {
-  while (curtk && curtk->kind != TK_EOL) next_token();
-}
+void DIR_skip_to_eol() { LEX_skip_to_eol(); }
 
 operand *DIR_get_oprnd(const dir_parse_state_t &st) {
   const uint32_t fl = st.flags;

@@ -181,7 +181,10 @@ class option_obj {
   unsigned errors_ = 0;
 };
 
-// True when the option's state counter is not 0.
+// The one instance, made by initialize (also declared in driver.h).
+extern option_obj *global_opts;
+
+// True when the option's state counter is not 0 (false before there are options).
 bool opt_on(option_id id);
 
 // `register_option`: a named integer that --debug: and --disable: set.

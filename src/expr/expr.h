@@ -94,7 +94,7 @@ void E_freeparts(value_record *value);             // only the parts, for embedd
 bool E_extract_sym_offset(const value_record *value, INT128 *offset);
 
 // Term readers shared with the built-in functions.
-node *E_nameterm();    // curtk is a name; null after an error
+node *E_nameterm();    // curtk is a TK_IDENT (or a TK_SCON naming a symbol); the leaf
 
 // Debug prints on stdout.
 void E_dump_expr(const node *n, int indent = 0);

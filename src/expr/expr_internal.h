@@ -7,6 +7,8 @@ node *E_level0();                                   // a whole expression from c
 node *E_term();                                     // curtk is in row 9
 void E_parse_error(const char *id, const char *text);   // the first message of a parse
 void E_parse_failed();                              // a message was given elsewhere
+bool E_nest_enter();                                // false, with a message, when too deep
+void E_nest_leave();
 
 // The current address as a value: true for a section-relative one (leaf
 // EOP_SPC), false for an absolute one (leaf EOP_ICON).
@@ -34,10 +36,3 @@ node *E_mkint(const INT128 &k);   // a fresh integer leaf
 // two offsets into one section.
 bool E_diff_ok(const value_record *a, const value_record *b);
 
-// until directives/sections.h lands
-extern section_record *curseg;
-bool SCN_iscomdat(section_record *section);
-// curpc plus the whole bytes waiting in the section's field accumulator
-uint32_t E_section_address();
-// the current section is of kind SCN_KIND_ABS
-bool E_section_is_abs();

@@ -38,6 +38,11 @@ constexpr op_row op_table[] = {
 // that the levels above fail without adding their own.
 bool parse_reported = false;
 
+// Parentheses and unary operators nest by recursion; a bound keeps absurd
+// input from exhausting the stack.
+constexpr int MAX_NESTING = 1000;
+int nesting = 0;
+
 bool map_operator(uint16_t token, expr_opcode *op) {
   for (const op_row *row = op_table; row->token; ++row) {
     if (row->token == token) {
@@ -52,9 +57,10 @@ bool map_operator(uint16_t token, expr_opcode *op) {
 node *parse_unary() {
   if (E_opfound(8)) {
     expr_opcode op;
-    if (!map_operator(curtk->kind, &op)) return nullptr;
+    if (!map_operator(curtk->kind, &op) || !E_nest_enter()) return nullptr;
     next_token();
     node *operand = parse_unary();
+    E_nest_leave();
     if (!operand) {
       E_parse_error("E0200", "Unary operator can't be applied");
       return nullptr;
@@ -94,6 +100,17 @@ void E_parse_error(const char *id, const char *text) {
 }
 
 void E_parse_failed() { parse_reported = true; }
+
+bool E_nest_enter() {
+  if (nesting >= MAX_NESTING) {
+    E_parse_error("E0007", "Expression nesting is too deep");
+    return false;
+  }
+  ++nesting;
+  return true;
+}
+
+void E_nest_leave() { --nesting; }
 
 node *E_level0() { return parse_level(0); }
 

@@ -1,7 +1,7 @@
 // What the expression engine needs to know of relocatable values.
 #include "expr/reloc.h"
 
-#include "expr/expr_internal.h"
+#include "directives/sections.h"
 
 bool RELOC_const_scnrel_offset(const value_record *value) {
   if (!is_relocatable(value) || !value->v_section || value->v_type == VT_UNDEFSYM ||

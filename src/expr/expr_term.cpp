@@ -61,9 +61,11 @@ node *location_term() {
 }
 
 node *paren_term() {
+  if (!E_nest_enter()) return nullptr;
   ++paren_depth;
   next_token();
   node *inner = E_level0();
+  E_nest_leave();
   if (!inner) return nullptr;
   if (!curtk || curtk->kind != TK_RPAREN) {
     E_parse_error("E0000", "No matching right parenthesis");

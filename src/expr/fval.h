@@ -152,18 +152,21 @@ int f_min(const simul_fval *list, simul_fval *r, int count);
 
 // ---- Text ----------------------------------------------------------------------------
 
-// printf-style: one %e, %E, %f, %F, %g or %G conversion with flags, width and
-// precision (and %% for a percent sign) in `format`; the text goes to
-// `buffer`, which needs room for it. Returns the length.
+// printf-style: %e, %E, %f, %F, %g and %G conversions with flags, width and
+// precision (at most 500), %% for a percent sign; other text and other
+// conversions are copied. Digits are the exact decimal expansion of x,
+// rounded to nearest with ties to even, as the C library prints a double.
+// `buffer` needs room for the text: %e fits in precision + 16 bytes, %f of
+// the largest values takes about 9900 bytes. Returns the length.
 int f_ftoa(char *buffer, const char *format, const simul_fval *x);
-// One conversion: `conv` is e, E, f, F, g or G; flags as a printf text.
+// One conversion: `conv` is e, E, f, F, g or G; `flags` holds any of "-+ #0".
 int f_f2ascii(char *buffer, const simul_fval *x, char conv, const char *flags, int width,
               int precision);
 // Digit strings without point, sign or exponent, like ecvt/fcvt: `ndigit`
-// significant digits (ecvt) or digits behind the point (fcvt), rounded to
-// nearest; *decpt is the position of the point, *sign 1 for negative. The
-// text lives in `buf`, which needs ndigit + 2 bytes (fcvt: more, by decpt).
+// significant digits (ecvt) or digits up to `ndigit` places behind the point
+// (fcvt); the value is 0.d1d2... * 10^*decpt, *sign is 1 for negative. The
+// text goes to `buf`: ndigit + 1 bytes for ecvt, *decpt + ndigit + 2 for fcvt.
 char *f_ecvt(const simul_fval *x, int ndigit, int *decpt, int *sign, char *buf);
 char *f_fcvt(const simul_fval *x, int ndigit, int *decpt, int *sign, char *buf);
-// The common digit generator: `count` significant digits, rounded.
+// The digit generator of f_ecvt: `count` significant digits (at most 11000).
 char *f_acvt(const simul_fval *x, int count, int *decpt, int *sign, char *buf);

@@ -8,44 +8,168 @@ using namespace fv;
 
 namespace {
 
-// Digits that the simulated precision can carry; later ones print as 0.
-constexpr int SIGNIFICANT = 30;
 // Bounds of what one conversion prints.
 constexpr int MAX_PRECISION = 500;
 constexpr int MAX_DIGITS = 11000;
+// Limbs of 32 bits for the integer part or the fraction of any finite value.
+constexpr int LIMBS = (32767 + 96) / 32 + 4;
+constexpr int MAX_INT_DIGITS = 9880;
 
-// |x| = y * 10^k with y in [1, 10); x finite and non-zero.
-long scale_to_unit(const simul_fval *x, simul_fval *y) {
-  *y = *x;
-  y->sign = 0;
-  long e = f_findexp(y) - 1;  // |x| in [2^e, 2^(e+1))
-  // floor(e * log10(2)), possibly one too low
-  long k = e >= 0 ? e * 30103 / 100000 : -((-e * 30103 + 99999) / 100000);
-  scale10(y, -k);
-  static const simul_fval ten = const_ten;
-  while (f_ge(y, &ten)) {
-    f_div(y, &ten, y);
-    ++k;
+// The exact decimal expansion of a finite non-zero value, digit by digit
+// from the first significant one. The value is M * 2^s with M the 96-bit
+// mantissa; its integer part is turned to text at once, its fraction
+// (F / 2^k) gives one digit per multiplication by ten.
+class digit_source {
+ public:
+  void reset(const simul_fval *x) {
+    simul_fval c = *x;
+    f_left_justify(&c);
+    long s = long(c.exponent) - 96;
+    uint32_t m[3] = {uint32_t(c.mant[4]) << 16 | c.mant[5], uint32_t(c.mant[2]) << 16 | c.mant[3],
+                     uint32_t(c.mant[0]) << 16 | c.mant[1]};
+    uint32_t ipart[LIMBS] = {};
+    int in = 0;
+    std::memset(frac_, 0, sizeof frac_);
+    k_ = 0;
+    fn_ = 0;
+    pos_ = 0;
+    pending_ = -1;
+    if (s >= 0) {
+      int w = int(s / 32), b = int(s % 32);
+      for (int i = 0; i < 3; ++i) {
+        uint64_t v = uint64_t(m[i]) << b;
+        ipart[i + w] |= uint32_t(v);
+        ipart[i + w + 1] |= uint32_t(v >> 32);
+      }
+      in = w + 4;
+    } else {
+      k_ = -s;
+      fn_ = int(k_ / 32) + 2;
+      for (int i = 0; i < 3; ++i) frac_[i] = m[i];
+      if (k_ < 96) {
+        // integer part M >> k; the fraction keeps the low k bits
+        int w = int(k_ / 32), b = int(k_ % 32);
+        for (int i = 0; i < 3; ++i) {
+          uint64_t lo = i + w < 3 ? m[i + w] : 0, hi = i + w + 1 < 3 ? m[i + w + 1] : 0;
+          ipart[i] = uint32_t(b ? (lo >> b) | (hi << (32 - b)) : lo);
+        }
+        in = 3;
+        for (int i = fn_; i < 3; ++i) frac_[i] = 0;
+        mask_fraction();
+      }
+    }
+    while (in > 0 && ipart[in - 1] == 0) --in;
+    // The integer part in decimal, nine digits per division.
+    int len = 0;
+    char rev[MAX_INT_DIGITS];
+    while (in > 0) {
+      uint64_t rem = 0;
+      for (int i = in - 1; i >= 0; --i) {
+        uint64_t cur = (rem << 32) | ipart[i];
+        ipart[i] = uint32_t(cur / 1000000000u);
+        rem = cur % 1000000000u;
+      }
+      while (in > 0 && ipart[in - 1] == 0) --in;
+      for (int d = 0; d < 9 && (in > 0 || rem); ++d) {
+        rev[len++] = char('0' + rem % 10);
+        rem /= 10;
+      }
+    }
+    for (int i = 0; i < len; ++i) int_digits_[i] = rev[len - 1 - i];
+    int_len_ = len;
+    decpt_ = len;
+    if (len == 0) {
+      // Leading zeros of the fraction only move the point.
+      for (;;) {
+        int d = next_fraction();
+        if (d) {
+          pending_ = d;
+          break;
+        }
+        --decpt_;
+      }
+    }
   }
-  while (f_lt(y, &const_one)) {
-    f_mul(y, &ten, y);
-    --k;
-  }
-  return k;
-}
 
-// Adds one in the last of `n` digits; true if it carried out of the first.
-bool round_up(char *d, int n) {
-  for (int i = n - 1; i >= 0; --i) {
-    if (d[i] != '9') {
-      ++d[i];
+  int decpt() const { return decpt_; }
+
+  int next() {
+    if (pending_ >= 0) {
+      int d = pending_;
+      pending_ = -1;
+      return d;
+    }
+    if (pos_ < int_len_) return int_digits_[pos_++] - '0';
+    return next_fraction();
+  }
+
+  bool rest_nonzero() const {
+    if (pending_ > 0) return true;
+    for (int i = pos_; i < int_len_; ++i)
+      if (int_digits_[i] != '0') return true;
+    for (int i = 0; i < fn_; ++i)
+      if (frac_[i]) return true;
+    return false;
+  }
+
+ private:
+  // Clears the bits from k on: what has gone in front of the point.
+  void mask_fraction() {
+    int top = int(k_ / 32), bit = int(k_ % 32);
+    frac_[top] &= bit ? (1u << bit) - 1 : 0;
+    for (int i = top + 1; i < fn_; ++i) frac_[i] = 0;
+  }
+
+  // The digit in front of the point after multiplying the fraction by 10.
+  int next_fraction() {
+    if (k_ == 0) return 0;
+    uint64_t carry = 0;
+    for (int i = 0; i < fn_; ++i) {
+      uint64_t t = uint64_t(frac_[i]) * 10 + carry;
+      frac_[i] = uint32_t(t);
+      carry = t >> 32;
+    }
+    int top = int(k_ / 32), bit = int(k_ % 32);
+    uint64_t above = (uint64_t(frac_[top + 1]) << 32 | frac_[top]) >> bit;
+    mask_fraction();
+    return int(above & 15);
+  }
+
+  char int_digits_[MAX_INT_DIGITS];
+  int int_len_ = 0, pos_ = 0, decpt_ = 0, pending_ = -1;
+  uint32_t frac_[LIMBS];
+  long k_ = 0;
+  int fn_ = 0;
+};
+
+digit_source source;  // large: one shared instance
+
+// `total` digits of the expansion into buf, rounded to nearest (ties to
+// even); true if the rounding carried into a new leading digit.
+bool exact_digits(digit_source &src, int total, char *buf) {
+  for (int i = 0; i < total; ++i) buf[i] = char('0' + src.next());
+  buf[total > 0 ? total : 0] = '\0';
+  int next = src.next();
+  int last = total > 0 ? buf[total - 1] - '0' : 0;
+  bool up = next > 5 || (next == 5 && (src.rest_nonzero() || last % 2 == 1));
+  if (!up) return false;
+  if (total <= 0) {
+    buf[0] = '1';
+    buf[1] = '\0';
+    return true;
+  }
+  for (int i = total - 1; i >= 0; --i) {
+    if (buf[i] != '9') {
+      ++buf[i];
       return false;
     }
-    d[i] = '0';
+    buf[i] = '0';
   }
-  d[0] = '1';
+  buf[0] = '1';
   return true;
 }
+
+bool not_finite_or_zero(const simul_fval *x) { return f_iszero(x) || f_isnan(x) || f_isinf(x); }
 
 }  // namespace
 
@@ -53,35 +177,15 @@ char *f_acvt(const simul_fval *x, int count, int *decpt, int *sign, char *buf) {
   *sign = x->sign & 1;
   if (count < 1) count = 1;
   if (count > MAX_DIGITS) count = MAX_DIGITS;
-  if (f_iszero(x) || f_isnan(x) || f_isinf(x)) {
+  if (not_finite_or_zero(x)) {
     std::memset(buf, '0', count);
     buf[count] = '\0';
     *decpt = 1;
     return buf;
   }
-  uint32_t saved = fp_error;
-  simul_fval y;
-  long k = scale_to_unit(x, &y);
-  int live = count < SIGNIFICANT ? count : SIGNIFICANT;
-  for (int i = 0; i < live; ++i) {
-    long d;
-    f_ftoi(&y, &d);
-    if (d > 9) d = 9;
-    buf[i] = char('0' + d);
-    simul_fval dv = const_dig[d];
-    f_sub(&y, &dv, &y);
-    f_mul(&y, &const_ten, &y);
-  }
-  for (int i = live; i < count; ++i) buf[i] = '0';
-  buf[count] = '\0';
-  if (live == count) {
-    // What is left, y in [0, 10), decides; an exact half goes to even.
-    simul_fval five = const_dig[5];
-    bool up = f_gt(&y, &five) || (f_eq(&y, &five) && (buf[count - 1] - '0') % 2 == 1);
-    if (up && round_up(buf, count)) ++k;
-  }
-  fp_error = saved;
-  *decpt = int(k + 1);
+  source.reset(x);
+  *decpt = source.decpt();
+  if (exact_digits(source, count, buf)) ++*decpt;
   return buf;
 }
 
@@ -90,32 +194,30 @@ char *f_ecvt(const simul_fval *x, int ndigit, int *decpt, int *sign, char *buf) 
 }
 
 char *f_fcvt(const simul_fval *x, int ndigit, int *decpt, int *sign, char *buf) {
+  *sign = x->sign & 1;
   if (ndigit < 0) ndigit = 0;
-  char probe[SIGNIFICANT + 2];
-  f_acvt(x, SIGNIFICANT, decpt, sign, probe);
-  int count = *decpt + ndigit;
-  if (f_iszero(x) || f_isnan(x) || f_isinf(x) || count < 0) {
-    // Nothing before the last place asked for.
-    std::memset(buf, '0', ndigit > 0 ? ndigit : 1);
-    buf[ndigit > 0 ? ndigit : 1] = '\0';
-    *decpt = 0;
-    if (f_iszero(x) || f_isnan(x) || f_isinf(x)) *decpt = 1;
+  if (not_finite_or_zero(x)) {
+    std::memset(buf, '0', ndigit + 1);
+    buf[ndigit + 1] = '\0';
+    *decpt = 1;
     return buf;
   }
-  if (count == 0) {
-    // Only the rounding of the first digit can leave a 1 in the last place.
-    bool up = probe[0] > '5' || (probe[0] == '5' && std::strspn(probe + 1, "0") < SIGNIFICANT - 1);
-    buf[0] = up ? '1' : '0';
-    buf[1] = '\0';
-    *decpt = up ? *decpt + 1 : *decpt;
-    if (!up) *decpt = 1 - ndigit;
+  source.reset(x);
+  *decpt = source.decpt();
+  int total = *decpt + ndigit;
+  if (total > MAX_DIGITS) total = MAX_DIGITS;
+  if (total < 0) {
+    // Nothing up to the last place asked for, nor can rounding reach it.
+    buf[0] = '\0';
+    *decpt = -ndigit;
     return buf;
   }
-  int old = *decpt;
-  f_acvt(x, count, decpt, sign, buf);
-  if (*decpt > old && count < MAX_DIGITS) {  // rounded up to a new leading digit
-    buf[count] = '0';
-    buf[count + 1] = '\0';
+  if (exact_digits(source, total, buf)) {
+    ++*decpt;
+    if (total > 0) {  // one more place behind the new leading digit
+      buf[total] = '0';
+      buf[total + 1] = '\0';
+    }
   }
   return buf;
 }

@@ -62,18 +62,20 @@ uint64_t INT128::to_u64() const {
 std::string INT128::to_string() const {
   static constexpr char hex[] = "0123456789abcdef";
   INT128 mag = *this;
-  std::string s;
+  char text[2 + 2 + 32 + 1];
+  int n = 0;
   if (is_negative()) {
-    s = "-";
+    text[n++] = '-';
     XI_neg(b, mag.b);  // the smallest value stays 0x80..., its own magnitude
   }
-  s += "0x";
+  text[n++] = '0';
+  text[n++] = 'x';
   int bytes = (XI_size(b) + 7) / 8;
   for (int i = 16 - bytes; i < 16; ++i) {
-    s += hex[mag.b[i] >> 4];
-    s += hex[mag.b[i] & 15];
+    text[n++] = hex[mag.b[i] >> 4];
+    text[n++] = hex[mag.b[i] & 15];
   }
-  return s;
+  return std::string(text, n);
 }
 
 std::ostream &operator<<(std::ostream &os, const INT128 &v) { return os << v.to_string(); }

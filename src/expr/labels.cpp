@@ -15,6 +15,18 @@ pending_label *LBL_current;
 
 namespace {
 
+// A statement that ignores labels may have let the listing release the line
+// on which a pending label stood; such a line is not touched again.
+linebuf *live_line(linebuf *line) {
+  for (const lst_group *g = curlst; g; g = g->next) {
+    for (const linebuf *l = g->first; l; l = l->next) {
+      if (l == line) return line;
+      if (l == g->last) break;
+    }
+  }
+  return nullptr;
+}
+
 void define_pass1(symbol_record *sym, const value_record &v) {
   if (sym->sym_flags & SYMF_DEFINED) return;  // the first definition stands
   SYM_define(sym, &v);
@@ -22,7 +34,7 @@ void define_pass1(symbol_record *sym, const value_record &v) {
   sym->sym_state = cur_state;
 }
 
-void define_pass2(symbol_record *sym, uint32_t a, linebuf *line) {
+void define_pass2(symbol_record *sym, uint32_t a, linebuf *line, bool own_line) {
   const char *name = sym->sym_name.c_str();
   if (!SYM_is_defined_here(sym)) error(line, "E0300", "%s is operand to both .ref and .def", name);
   if (sym->sym_flags & SYMF_DEFINED) error(line, "E0300", "Symbol %s has already been defined", name);
@@ -34,7 +46,7 @@ void define_pass2(symbol_record *sym, uint32_t a, linebuf *line) {
     error_internal(1, line, "%s defined differently in each pass", name);
   }
   // A label alone on its line shows its address there.
-  if (line && (line->flags & LNF_LABEL) && !line->object) {
+  if (own_line && line && (line->flags & LNF_LABEL) && !line->object) {
     LST_object(line, a, nullptr, ' ', 4);
     line->flags &= static_cast<uint16_t>(~LNF_OBJECT);
   }
@@ -42,6 +54,8 @@ void define_pass2(symbol_record *sym, uint32_t a, linebuf *line) {
 }
 
 void define_one(const pending_label &p) {
+  linebuf *line = live_line(p.line);
+  if (!line) line = curline;
   symbol_record *sym = SYM_find(p.name, false);
   uint32_t a = SYM_label_address();
   value_record v;
@@ -54,12 +68,12 @@ void define_one(const pending_label &p) {
   v.v_flags = VF_ADDRESS;
   v.v_bits = static_cast<uint16_t>(widthchk(static_cast<int32_t>(a), 48));
   if (sym->sym_value.v_type == VT_KEYWORD) {
-    error(p.line, "E0300", "%s is a reserved identifier", sym->sym_name.c_str());
+    error(line, "E0300", "%s is a reserved identifier", sym->sym_name.c_str());
   }
   if (pass1) {
     define_pass1(sym, v);
   } else {
-    define_pass2(sym, a, p.line);
+    define_pass2(sym, a, line, line == p.line);
   }
 }
 

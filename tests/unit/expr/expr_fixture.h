@@ -7,6 +7,7 @@
 
 #include "driver/diag.h"
 #include "driver/driver.h"
+#include "directives/sections.h"
 #include "driver/options.h"
 #include "expr/expr.h"
 #include "expr/expr_internal.h"
@@ -14,9 +15,10 @@
 #include "source/lexer.h"
 #include "support/memory.h"
 
-// Sections are opaque here: only their identity matters to the engine.
-inline section_record *const scn_a = reinterpret_cast<section_record *>(0x1000);
-inline section_record *const scn_b = reinterpret_cast<section_record *>(0x2000);
+// Two code sections and an absolute one; only their identity and kind matter.
+extern section_record *const scn_a;
+extern section_record *const scn_b;
+extern section_record *const scn_abs;
 
 // Puts `text` in the lexer's line buffer and reads its first token.
 void expr_lex_line(const std::string &text);

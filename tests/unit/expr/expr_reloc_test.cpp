@@ -108,6 +108,20 @@ TEST_F(ExprTest, LocationCounter) {
   EXPECT_EQ(v->v_type, VT_ICON);
   EXPECT_EQ(v->v_val, xi_from_int(-0x28));
   E_freeval(v);
+
+  // In another section `$` is no constant offset from lab1.
+  curseg = scn_b;
+  v = eval("$ - lab1");
+  EXPECT_TRUE(is_relocatable(v));
+  E_freeval(v);
+
+  // An absolute section gives plain numbers.
+  curseg = scn_abs;
+  v = eval("$ + 2");
+  EXPECT_EQ(v->v_type, VT_ICON);
+  EXPECT_EQ(v->v_section, nullptr);
+  EXPECT_EQ(v->v_val, xi_from_int(0x42));
+  E_freeval(v);
   curseg = nullptr;
 }
 

@@ -27,6 +27,7 @@
 [[gnu::weak]] uint32_t curpc = 0;
 [[gnu::weak]] FHM_FILE *ASSY_LST = nullptr;
 [[gnu::weak]] option_obj *global_opts = nullptr;
+[[gnu::weak]] OFE::OBJECT_FILE *ofile = nullptr;
 [[gnu::weak]] FILE *FHM_FILE::fp() { return file_m; }
 
 // ---- options ----------------------------------------------------------------
@@ -94,6 +95,8 @@
   return static_cast<int>(h % 5003);
 }
 
+[[gnu::weak]] lst_group *curlst = nullptr;
+[[gnu::weak]] lst_group *lastlst = nullptr;
 [[gnu::weak]] void LST_object(linebuf *line, unsigned int address, unsigned char *, char mark, unsigned char count) {
   auto *o = new obj_flds{address, 0, mark ? mark : ' ', count, nullptr};
   obj_flds **link = &line->object;
@@ -170,6 +173,7 @@
   if (u <= 0xFFFFFF) return 24;
   return 32;
 }
+[[gnu::weak]] uint32_t get_ieee_flt_fmt(const simul_fval *) { return 0; }
 [[gnu::weak]] bool f_eq(const simul_fval *x, const simul_fval *y) { return std::memcmp(x, y, sizeof *x) == 0; }
 
 // ---- object file ----------------------------------------------------------------------

@@ -193,3 +193,41 @@ TEST(Numbers_Conv, IeeeBitsRoundTrip) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(Numbers_Conv, OddTextStopsCleanly) {
+  struct {
+    std::string text;
+    double want;
+  } cases[] = {
+      {"", 0},          {".", 0},           {"1e", 1},        {"1e+", 1},
+      {"1.2.3", 1.2},   {"0x", 0},          {"0xp3", 0},      {"2x", 2},
+      {"1e99999999999999999999", INFINITY},   {"  7", 7},       {"12abc", 12},
+      {std::string(600, '9'), INFINITY},      // 10^600 is finite here, not as a double
+      {"0." + std::string(400, '0') + "1e400", 0.1},
+      {"0x" + std::string(200, 'f'), std::ldexp(1.0, 800)},
+      {"1" + std::string(300, '0'), 1e300},
+  };
+  for (auto &c : cases) {
+    simul_fval v;
+    f_atof(c.text.c_str(), &v);
+    EXPECT_EQ(D(v), c.want) << c.text;
+  }
+}
+
+TEST(Numbers_Text, ExtremeValuesFitTheirText) {
+  static char buf[12000];
+  simul_fval tiny{{1}, -32752, 0};
+  EXPECT_EQ(f_ftoa(buf, "%.3e", &tiny), 11);
+  EXPECT_STREQ(buf, "7.065e-9865");
+  EXPECT_EQ(f_ftoa(buf, "%.2e", &pos_huge), 10);
+  EXPECT_STREQ(buf, "3.30e+9854");
+  int n = f_ftoa(buf, "%.1f", &pos_huge);
+  EXPECT_EQ(n, 9855 + 2);
+  EXPECT_EQ(std::string(buf, 5), "32956");
+  EXPECT_EQ(f_ftoa(buf, "%.2f", &tiny), 4);
+  EXPECT_STREQ(buf, "0.00");
+}
+
+}  // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <initializer_list>
 #include <string>
 
 #include "driver/diag.h"
@@ -29,6 +30,7 @@ class SymbolsTest : public ::testing::Test {
     num_warnings = 0;
   }
   void TearDown() override {
+    curlst = lastlst = nullptr;
     SYM_init();
     delete global_opts;
     global_opts = nullptr;
@@ -43,6 +45,17 @@ class SymbolsTest : public ::testing::Test {
     pass2 = 1;
     num_errors = 0;
     curpc = 0;
+  }
+
+  // Puts the lines in one listing group, as the queue holds a statement's lines.
+  void queue(std::initializer_list<linebuf *> lines) {
+    linebuf *prev = nullptr;
+    for (linebuf *l : lines) {
+      if (prev) prev->next = l;
+      prev = l;
+    }
+    group_ = lst_group{*lines.begin(), prev, nullptr};
+    curlst = lastlst = &group_;
   }
 
   static value_record icon(uint32_t v) {
@@ -64,6 +77,9 @@ class SymbolsTest : public ::testing::Test {
   static bool shown(const std::string &out, const char *id, const std::string &text) {
     return out.find(std::string("[") + id + "]") != std::string::npos && out.find(text) != std::string::npos;
   }
+
+ private:
+  lst_group group_{};
 };
 
 // A source line as the listing queue holds it; releases what messages and

@@ -180,6 +180,7 @@ TEST_F(Labels, KeywordAsLabel) {
 TEST_F(Labels, LabelAloneOnItsLineShowsItsAddress) {
   curseg = text_scn;
   test_line alone(1), with_statement(2);
+  queue({&alone, &with_statement});
   auto define_both = [&] {
     curpc = 16;
     LBL_save_name("alone", &alone);
@@ -197,6 +198,23 @@ TEST_F(Labels, LabelAloneOnItsLineShowsItsAddress) {
   EXPECT_EQ(alone.flags & LNF_OBJECT, 0);
   EXPECT_EQ(with_statement.object, nullptr);
   EXPECT_NE(with_statement.flags & LNF_OBJECT, 0);
+}
+
+TEST_F(Labels, ReleasedLineIsNotTouched) {
+  // The statement after the label let the listing release the label's line;
+  // the address then goes to no line, and a message to the current line.
+  curseg = text_scn;
+  test_line released(1), current(2);
+  queue({&current});
+  curline = &current;
+  start_pass2();
+  released.flags |= LNF_LABEL;
+  LBL_save_name("gone", &released);
+  std::string out = screen([] { LBL_define(); });
+  EXPECT_EQ(released.object, nullptr);
+  EXPECT_EQ(current.object, nullptr);
+  EXPECT_TRUE(shown(out, "E0300", "gone is operand to both .ref and .def")) << out;
+  curline = nullptr;
 }
 
 TEST_F(Labels, LabelKeepsTheCodeState) {

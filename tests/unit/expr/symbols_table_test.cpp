@@ -2,6 +2,7 @@
 // between the passes and the end-of-run checks.
 #include "symbols_fixture.h"
 
+#include "source/copy.h"
 #include "source/lexer.h"
 #include "source/ophash.h"
 
@@ -380,6 +381,59 @@ TEST_F(SymTable, ImportedUndefined) {
   value_record one = icon(1);
   SYM_define(s, &one);
   EXPECT_FALSE(is_imported_undef(s));
+}
+
+}  // namespace
+
+namespace {
+
+using SymXref = SymbolsTest;
+
+TEST_F(SymXref, ReferencesAreRecordedInPass1Only) {
+  global_opts->setopt(OPT_CROSS_REFERENCE);
+  f_lchar = 'A';
+  f_lnum = 7;
+  modified_op = 1;
+  symbol_record *s = SYM_find("x");
+  modified_op = 0;
+  f_lnum = 9;
+  value_record one = SymbolsTest::icon(1);
+  SYM_define(SYM_find("x"), &one);
+
+  ASSERT_NE(s->sym_xref, nullptr);
+  const xref_record *def = s->sym_xref, *use = def->next;
+  ASSERT_NE(use, nullptr);
+  EXPECT_EQ(use->next, nullptr);
+  EXPECT_EQ(use->file_letter, 'A');
+  EXPECT_EQ(use->line, 7);
+  EXPECT_EQ(use->modified, 1);
+  EXPECT_EQ(use->is_def, 0);
+  EXPECT_EQ(def->line, 9);
+  EXPECT_EQ(def->is_def, 1);
+  EXPECT_EQ(def->modified, 0);
+
+  // Registers and pass 2 record nothing.
+  symbol_record *r = SYM_find("r1", true);
+  value_record reg = SymbolsTest::icon(1);
+  reg.v_type = VT_REG;
+  SYM_define(r, &reg);
+  xref_record *before = r->sym_xref;
+  SYM_find("r1");
+  EXPECT_EQ(r->sym_xref, before);
+  start_pass2();
+  SYM_find("x");
+  EXPECT_EQ(s->sym_xref, def);
+
+  // A predefined symbol is defined on no line.
+  pass1 = 1;
+  pass2 = 0;
+  symbol_record *p = SYM_set_predef("PD", 1, false);
+  ASSERT_NE(p->sym_xref, nullptr);
+  EXPECT_EQ(p->sym_xref->is_def, 1);
+  EXPECT_EQ(p->sym_xref->file_letter, ' ');
+  EXPECT_EQ(p->sym_xref->line, 0);
+  f_lchar = ' ';
+  f_lnum = 0;
 }
 
 }  // namespace

@@ -1,0 +1,3 @@
+; --toolversion prints the version and stops.
+; RUN: --toolversion
+; EXIT: 0

@@ -1,0 +1,82 @@
+// Helpers of the engine tests: an object made the way the driver makes it,
+// an error log, temporary files, external tools, and a small ELF reader
+// written independently of the engine.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ofe/ofe.h"
+
+namespace ofe_test {
+
+struct LoggedError {
+    int code;
+    std::string text;
+};
+
+// Everything the handler of the current test received.
+std::vector<LoggedError> &errors();
+void clear_errors();
+bool has_error(int code, const std::string &text_part);
+// Records and clears the pending error, as the assembler's handler does.
+void record_error(OFE::OBJECT_FILE *f, OFE::OF_ERROR_CODE code, const char *text);
+
+// An ELF object as the driver sets it up: endianness, producer "Assembler",
+// handler, `.symtab` with hidden default visibility.
+std::unique_ptr<OFE::OBJECT_FILE> make_elf(bool big_endian = false, const char *producer = "Assembler");
+OFE::ELF_FILE *elf(const std::unique_ptr<OFE::OBJECT_FILE> &f);
+
+std::string temp_path(const std::string &name);
+std::vector<unsigned char> read_file(const std::string &path);
+void write_file(const std::string &path, const std::string &contents);
+
+struct RunResult {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+RunResult run(const std::string &command);
+
+// Reader of 32-bit ELF files.
+struct Shdr {
+    std::string name;
+    uint32_t sh_name, sh_type, sh_flags, sh_addr, sh_offset, sh_size, sh_link, sh_info, sh_addralign, sh_entsize;
+};
+
+struct Sym {
+    std::string name;
+    uint32_t st_name, st_value, st_size;
+    uint8_t st_info, st_other;
+    uint16_t st_shndx;
+};
+
+struct Rel {
+    uint32_t offset, info;
+    int32_t addend;
+};
+
+struct Elf {
+    std::vector<unsigned char> bytes;
+    bool big = false;
+    uint16_t e_type = 0, e_machine = 0, e_ehsize = 0, e_phentsize = 0, e_phnum = 0, e_shentsize = 0,
+             e_shnum = 0, e_shstrndx = 0;
+    uint32_t e_version = 0, e_entry = 0, e_phoff = 0, e_shoff = 0, e_flags = 0;
+    std::vector<Shdr> sections;
+
+    uint32_t u32(std::size_t off) const;
+    uint16_t u16(std::size_t off) const;
+    const Shdr *find(const std::string &name) const;
+    int index_of(const std::string &name) const;
+    std::vector<unsigned char> contents(const Shdr &s) const;
+    std::vector<Sym> symbols() const;
+    std::vector<Rel> relocs(const Shdr &s) const;
+    std::vector<std::string> section_names() const;
+};
+
+Elf parse_elf(const std::string &path);
+
+}  // namespace ofe_test
