@@ -2,6 +2,7 @@
 // .compiler_opts and .template.
 #include <cstring>
 
+#include "directives/sections.h"
 #include "driver/diag.h"
 #include "driver/driver.h"
 #include "driver/pipeline.h"
@@ -9,21 +10,6 @@
 #include "expr/symbols.h"
 #include "source/lexer.h"
 #include "source/macro.h"
-
-// until directives/sections.h lands
-void SCN_align(unsigned long bits, unsigned long fill);
-void SCN_space(unsigned long bits);
-void SCN_queue(int kind, const char *name);
-void SCN_push();
-void SCN_pop();
-void SCN_insert_byte(unsigned byte, int mapping_kind);
-
-namespace {
-
-constexpr int SCN_KIND_TEMPLATE = 6;
-
-
-}  // namespace
 
 void donothing(instruct *) {}
 
@@ -94,7 +80,7 @@ void GD_template(instruct *ir) {
   const char *s = text->value.v_str;
   const size_t len = strlen(s);
   SCN_push();
-  SCN_queue(SCN_KIND_TEMPLATE, ".template");
+  SCN_queue(SCN_KIND_NOALLOC, ".template");
   if (pass1) {
     SCN_space((len + 2) * 8);
   } else {

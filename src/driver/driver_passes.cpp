@@ -6,6 +6,7 @@
 
 #include "debug/coff_debug.h"
 #include "debug/dwarf_directives.h"
+#include "directives/sections.h"
 #include "driver/diag.h"
 #include "driver/driver.h"
 #include "driver/driver_run.h"
@@ -23,14 +24,8 @@
 #include "support/fhm.h"
 #include "target/arm/trg.h"
 
-// until directives/sections.h lands
-void SCN_queue(int kind, const char *name);
-void SCN_reset();
-void SCN_flush();
 
 namespace {
-
-constexpr int SCN_KIND_CODE = 0, SCN_KIND_DATA = 1, SCN_KIND_BSS = 3;
 
 void open_sections_of_a_pass() {
   SCN_queue(SCN_KIND_CODE, ".text");

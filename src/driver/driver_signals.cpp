@@ -6,6 +6,7 @@
 #include <string>
 #include <unistd.h>
 
+#include "directives/sections.h"
 #include "driver/driver.h"
 #include "driver/driver_run.h"
 #include "source/copy.h"
@@ -42,6 +43,10 @@ const char *signal_text(int sig) {
 
 std::string signal_context() {
   std::string text = "while processing";
+  if (curseg && curseg->name() && *curseg->name()) {
+    text += " section ";
+    text += curseg->name();
+  }
   const char *file = f_name && *f_name ? f_name : assy_src_name;
   if (file && *file) {
     text += " file ";

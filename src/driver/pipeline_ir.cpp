@@ -2,6 +2,7 @@
 // releases it.
 #include <cstdlib>
 
+#include "directives/sections.h"
 #include "driver/diag.h"
 #include "driver/directive_ids.h"
 #include "driver/driver.h"
@@ -15,10 +16,6 @@
 #include "support/memory.h"
 #include "target/arm/trg.h"
 
-// until directives/sections.h lands
-void SCN_align(unsigned long bits, unsigned long fill);
-void SCN_space(unsigned long bits);
-void SCN_asm_debug(instruct *ir);
 
 namespace {
 

@@ -218,6 +218,7 @@ int ELF_FILE::format_elf_file()
     if (t->set_state(OFS_FORMATTED) != 0) return -1;
     set_e_phoff(0);
     set_e_shoff(t->scnnum() ? t->file_offset() : 0);
+    formatted_size_m = offset;
     return 0;
 }
 

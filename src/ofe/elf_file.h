@@ -87,6 +87,8 @@ public:
 
     // The section name table id, beyond the 16-bit escape.
     unsigned shstrndx() const;
+    // Size of the whole file, known once it is formatted.
+    uint64_t formatted_size() const { return formatted_size_m; }
     void set_shstrndx(unsigned id) { shstrndx_m = id; }
 
     int progress_to_state(OF_STATE s) override;
@@ -111,6 +113,7 @@ private:
     ELF_SECTION *symalias_m = nullptr;
     ELF_SECTION *symmeta_m = nullptr;
     unsigned shstrndx_m = 0;
+    uint64_t formatted_size_m = 0;
 };
 
 template <int BITS>

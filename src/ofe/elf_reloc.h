@@ -19,6 +19,7 @@ public:
     ELF_RELOC(ELF_RELOC_TABLE *table, unsigned id);
 
     ELF_RELOC_TABLE *elf_table() const;
+    ELF_RELOC *elf_api() override { return this; }
 
     virtual uint64_t r_offset() const = 0;
     virtual void set_r_offset(uint64_t v) = 0;

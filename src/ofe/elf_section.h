@@ -27,6 +27,7 @@ public:
 
     ELF_SECTION_TABLE *elf_table() const;
     ELF_FILE *elf_file() const;
+    ELF_SECTION *elf_api() override { return this; }
 
     // Header fields, in file layout.
     virtual uint32_t sh_name() const = 0;
@@ -181,6 +182,7 @@ public:
     ~ELF_SECTION_TABLE() override;
 
     ELF_FILE *elf_file() const;
+    ELF_SECTION_TABLE *elf_api() override { return this; }
     ELF_SECTION *elf_section(unsigned id);
 
     OF_SECTION *new_section(const char *name) override;

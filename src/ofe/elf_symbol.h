@@ -50,6 +50,7 @@ public:
     ~ELF_SYMBOL() override;
 
     ELF_SYMBOL_TABLE *elf_table() const;
+    ELF_SYMBOL *elf_api() override { return this; }
 
     // Raw fields, in file layout.
     virtual uint32_t st_name() const = 0;
@@ -162,6 +163,7 @@ public:
     ELF_FILE *elf_file() const;
     ELF_SECTION *elf_section() const;
     ELF_SYMBOL *elf_symbol(unsigned id);
+    ELF_SYMBOL_TABLE *elf_api() override { return this; }
 
     OF_SYMBOL *new_symbol() override;
     ELF_SYMBOL *new_elf_symbol() { return static_cast<ELF_SYMBOL *>(new_symbol()); }

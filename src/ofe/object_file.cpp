@@ -173,7 +173,9 @@ int OBJECT_FILE::save_obj(const char *name)
     if (!name) name = "";
     bool in_place = write_in_place(name);
     std::string path = in_place ? std::string(name) : temporary_name(name);
-    FHM_FILE *fh = fhm_open(path.c_str(), "wb+");
+    // The rename would replace a file that may not be written to.
+    bool refused = access(name, F_OK) == 0 && access(name, W_OK) != 0;
+    FHM_FILE *fh = refused ? nullptr : fhm_open(path.c_str(), "wb+");
     if (!fh) {
         set_error(OFERR_FILE_ACCESS, "failed to open \"%s\" for writing", name);
         return -1;
@@ -205,10 +207,9 @@ int OBJECT_FILE::save_obj(const char *name)
     if (rc == 0 && !in_place && rename(path.c_str(), name) != 0) rc = -1;
     if (rc != 0) {
         set_error(OFERR_FILE_ACCESS, "an error occurred while writing \"%s\"", name);
-        if (handle_m.fh == fh)
-            close_owned_handle();
-        else
-            fhm_close(fh);
+        // Sections may already be bound to the handle: an owned one stays
+        // open until the object goes.
+        if (handle_m.fh != fh) fhm_close(fh);
         if (!in_place) remove(path.c_str());
         return -1;
     }

@@ -8,6 +8,13 @@
 
 namespace OFE {
 
+ELF_RELOC *OF_RELOC::elf_api()
+{
+    OBJECT_FILE *f = table_m ? table_m->ofile() : nullptr;
+    if (f) f->set_error(OFERR_CORRUPTED, "attempting to get ELF interface for non-ELF file");
+    return nullptr;
+}
+
 OF_RELOC_TABLE::OF_RELOC_TABLE(OBJECT_FILE *ofile, OF_SECTION *section)
     : OF_STATE_MACHINE(ofile), section_m(section)
 {

@@ -12,6 +12,8 @@ class DATA_MAP;
 
 namespace OFE {
 
+class ELF_RELOC;
+
 class OF_RELOC {
 public:
     OF_RELOC(OF_RELOC_TABLE *table, unsigned id) : table_m(table), id_m(id) {}
@@ -34,6 +36,8 @@ public:
     virtual void set_internal() {}
     // Writes the record into the table's raw data (locked state).
     virtual void patch_raw_data() = 0;
+    // Format interface; null and code 3 on the wrong format.
+    virtual ELF_RELOC *elf_api();
 
     void delete_reloc() { deleted_m = true; }
     bool is_deleted() const { return deleted_m; }

@@ -44,6 +44,27 @@ DATA_MAP &OF_SECTION::raw_data()
     return data_m;
 }
 
+namespace {
+
+void not_elf(OBJECT_FILE *f)
+{
+    if (f) f->set_error(OFERR_CORRUPTED, "attempting to get ELF interface for non-ELF file");
+}
+
+}  // namespace
+
+ELF_SECTION *OF_SECTION::elf_api()
+{
+    not_elf(ofile());
+    return nullptr;
+}
+
+ELF_SECTION_TABLE *OF_SECTION_TABLE::elf_api()
+{
+    not_elf(ofile());
+    return nullptr;
+}
+
 OF_SYMBOL *OF_SECTION::symbol()
 {
     if (symbol_m) return symbol_m;

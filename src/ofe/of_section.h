@@ -11,6 +11,9 @@
 
 namespace OFE {
 
+class ELF_SECTION;
+class ELF_SECTION_TABLE;
+
 class OF_SECTION : public OF_STATE_MACHINE {
 public:
     OF_SECTION(OF_SECTION_TABLE *table, unsigned id);
@@ -67,6 +70,8 @@ public:
     virtual uint64_t file_offset() const = 0;
     virtual bool is_build_attr() const = 0;
     virtual OF_GROUP_TABLE *group_api() { return nullptr; }
+    // Format interface; null and code 3 on the wrong format.
+    virtual ELF_SECTION *elf_api();
     virtual unsigned reloc_table_num() const = 0;
     virtual OF_RELOC_TABLE *reloc_table(unsigned i) = 0;
     virtual OF_RELOC *new_reloc(bool rela) = 0;
@@ -112,6 +117,7 @@ public:
     virtual unsigned scnnum() const { return static_cast<unsigned>(sections_m.size()); }
     virtual OF_SECTION *new_group(const char *name) = 0;
     virtual void clear();
+    virtual ELF_SECTION_TABLE *elf_api();
 
     // Apply a renumbering of sections to everything that holds section ids.
     virtual void update_translations(const RECORD_MAP<unsigned> &map);

@@ -50,6 +50,18 @@ void OF_SYMBOL::set_near_common()
     if (ofile()) ofile()->set_error(OFERR_INTERNAL, "symbol does not support setting near-common");
 }
 
+ELF_SYMBOL *OF_SYMBOL::elf_api()
+{
+    if (ofile()) ofile()->set_error(OFERR_CORRUPTED, "attempting to get ELF interface for non-ELF file");
+    return nullptr;
+}
+
+ELF_SYMBOL_TABLE *OF_SYMBOL_TABLE::elf_api()
+{
+    if (ofile()) ofile()->set_error(OFERR_CORRUPTED, "attempting to get ELF interface for non-ELF file");
+    return nullptr;
+}
+
 // ---- OF_SYMBOL_TABLE -----------------------------------------------------------
 
 OF_SYMBOL_TABLE::OF_SYMBOL_TABLE(OBJECT_FILE *ofile, OF_SECTION *section)

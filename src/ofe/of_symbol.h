@@ -9,6 +9,9 @@
 
 namespace OFE {
 
+class ELF_SYMBOL;
+class ELF_SYMBOL_TABLE;
+
 class OF_SYMBOL {
 public:
     explicit OF_SYMBOL(OF_SYMBOL_TABLE *table, unsigned id) : table_m(table), id_m(id) {}
@@ -42,6 +45,8 @@ public:
     virtual bool is_alias() const { return alias_m; }
     virtual void set_alias(bool a) { alias_m = a; }
     virtual void set_near_common();
+    // Format interface; null and code 3 on the wrong format.
+    virtual ELF_SYMBOL *elf_api();
 
     bool sym_blocked() const { return blocked_m; }
     void set_sym_blocked(bool b) { blocked_m = b; }
@@ -90,6 +95,7 @@ public:
     virtual void purge_deleted_symbols();
     virtual unsigned symnum() const { return static_cast<unsigned>(symbols_m.size()); }
     virtual unsigned symbol_size() const = 0;
+    virtual ELF_SYMBOL_TABLE *elf_api();
 
     // Renumbering: section ids held by symbols, and symbol ids held by
     // others (relocations, groups, aliases).

@@ -1,6 +1,7 @@
-// Interim stand-ins so the driver tests link before the section manager lands.
-// All weak: the real definitions replace them.
-struct instruct;
+// Interim stand-ins so the driver tests link before the section manager and
+// the engine-error handlers land. All weak: the real definitions replace them.
+#include "directives/sections.h"
+#include "ofe/of_types.h"
 
 [[gnu::weak]] void SCN_queue(int, const char *) {}
 [[gnu::weak]] void SCN_align(unsigned long, unsigned long) {}
@@ -11,3 +12,6 @@ struct instruct;
 [[gnu::weak]] void SCN_pop() {}
 [[gnu::weak]] void SCN_flush() {}
 [[gnu::weak]] void SCN_asm_debug(instruct *) {}
+[[gnu::weak]] const char *section_record::name() const { return ""; }
+[[gnu::weak]] section_record *curseg = nullptr;
+[[gnu::weak]] void ofile_error_handler(OFE::OBJECT_FILE *, OFE::OF_ERROR_CODE, const char *) {}

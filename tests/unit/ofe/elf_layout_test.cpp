@@ -221,7 +221,7 @@ TEST(ElfLayout, VendorFlagWidthAndCount)
         auto f = make_elf();
         OF_SECTION *a = f->section_table()->new_section(".text");
         f->section_table()->new_section(".data");
-        static_cast<ELF_SECTION *>(a)->set_zq_sh_flags(c.flag);
+        a->elf_api()->set_zq_sh_flags(c.flag);
         Elf e = save_and_parse(f.get(), "flags.o");
         auto bytes = e.contents(*e.find(".ZQ.section.flags"));
         ASSERT_EQ(bytes.size(), 26u + (c.flag ? 2 * c.width : 0));

@@ -399,7 +399,7 @@ TEST(MachineDb, FlagsEabiAndNames)
     EXPECT_TRUE(errors().empty());
     db->set_zq_sh_flag(s, ZQ_SHF_RETAIN | ZQ_SHF_BOUND, true);
     EXPECT_TRUE(has_error(5, "zq_flag() called with more than one flag specified"));
-    EXPECT_EQ(static_cast<ELF_SECTION *>(s)->zq_sh_flags(), ZQ_SHF_NOINIT);
+    EXPECT_EQ(s->elf_api()->zq_sh_flags(), ZQ_SHF_NOINIT);
 
     EXPECT_EQ(f->set_file_type(static_cast<OF_FILE_TYPE>(9)), -1);
     EXPECT_TRUE(has_error(5, "invalid file type"));

@@ -1,6 +1,8 @@
 // Saving never leaves a half-written file in place of an older one.
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <filesystem>
 
 #include "ofe_test_util.h"
@@ -44,6 +46,20 @@ TEST(Save, FailureLeavesTheOldFile)
     ASSERT_EQ(errors().size(), 1u);
     EXPECT_EQ(errors()[0].code, 2);
     EXPECT_EQ(errors()[0].text, "failed to open \"" + nowhere + "\" for writing");
+
+    // A file that may not be written is not replaced either.
+    std::string locked = dir + "/readonly.o";
+    write_file(locked, "keep");
+    std::filesystem::permissions(locked, std::filesystem::perms::owner_read);
+    clear_errors();
+    auto k = make_elf();
+    if (access(locked.c_str(), W_OK) != 0) {  // root may write anyway
+        EXPECT_EQ(k->save_obj(locked.c_str()), -1);
+        EXPECT_TRUE(has_error(2, "failed to open \"" + locked + "\" for writing"));
+        auto kept = read_file(locked);
+        EXPECT_EQ(std::string(kept.begin(), kept.end()), "keep");
+    }
+    EXPECT_EQ(files_in(dir), 2u);
 }
 
 TEST(Save, SuccessReplacesTheFileAndKeepsContentsReadable)
@@ -62,6 +78,7 @@ TEST(Save, SuccessReplacesTheFileAndKeepsContentsReadable)
     Elf e = parse_elf(path);
     EXPECT_EQ(e.u32(e.find(".data")->sh_offset), 0xCAFEF00Du);
     EXPECT_TRUE(f->saved());
+    EXPECT_EQ(f->elf_api()->formatted_size(), e.bytes.size());
     EXPECT_EQ(f->own_state(), OFS_SAVED);
     // The saved bytes now come back from the file.
     const DATA_MAP &m = data->raw_data_nocheck();

@@ -47,8 +47,8 @@ TypicalObject build_typical(bool big_endian)
     t.inl->raw_data().UINT16_write(0x4770);  // bx lr
 
     t.group = st->new_section(".group");
-    static_cast<ELF_SECTION *>(t.group)->set_sh_type(SHT_GROUP);
-    static_cast<ELF_SECTION *>(t.group)->set_sh_flags(0);
+    t.group->elf_api()->set_sh_type(SHT_GROUP);
+    t.group->elf_api()->set_sh_flags(0);
 
     t.debug = st->new_section(".debug_info");
     t.debug->raw_data().UINT32_write(7);
@@ -60,7 +60,7 @@ TypicalObject build_typical(bool big_endian)
     OF_RELOC *movt = t.text->new_reloc(f->reloc_type(OFR_ARM_MOVT_ABS)->is_rela());
     movt->set_offset(8);
     movt->set_type(f->reloc_type(OFR_ARM_MOVT_ABS));
-    static_cast<ELF_RELOC *>(movt)->set_addend(0x10);
+    movt->elf_api()->set_addend(0x10);
     OF_RELOC *word = t.data->new_reloc(false);
     word->set_offset(0);
     word->set_type(f->reloc_type(OFR_RELLONG));
@@ -84,7 +84,7 @@ TypicalObject build_typical(bool big_endian)
     t.main_sym->set_binding(OFB_GLOBAL);
     t.main_sym->set_type(OFY_FUNCTION);
     t.main_sym->set_size(12);
-    static_cast<ELF_SYMBOL *>(t.main_sym)->set_visibility(STV_DEFAULT);
+    t.main_sym->elf_api()->set_visibility(STV_DEFAULT);
     t.weak = e->elf_symbol_table()->new_symbol();
     t.weak->set_name("wk");
     t.weak->set_section(t.data);
@@ -95,7 +95,7 @@ TypicalObject build_typical(bool big_endian)
     t.ext->set_name("ext");
     t.ext->set_kind(OFK_UNDEFINED);
     t.ext->set_binding(OFB_GLOBAL);
-    static_cast<ELF_SYMBOL *>(t.ext)->set_visibility(STV_DEFAULT);
+    t.ext->elf_api()->set_visibility(STV_DEFAULT);
     t.common = e->elf_symbol_table()->new_symbol();
     t.common->set_name("cmn");
     t.common->set_kind(OFK_COMMON);
