@@ -16,7 +16,8 @@ constexpr unsigned MAX_WIDTH = 64;
 
 // Is there an operand behind the directive name? curtk stays on the name.
 bool operand_follows() {
-  token *name = get_token();
+  token *name = curtk;
+  get_token();
   const bool any = curtk && curtk->kind != TK_EOL;
   unget_token(&curtk);
   curtk = name;

@@ -4,6 +4,10 @@
 
 struct linebuf;
 struct instruct;
+namespace OFE {
+class OBJECT_FILE;
+enum OF_ERROR_CODE : int;
+}  // namespace OFE
 
 extern uint32_t num_errors;
 extern uint32_t num_warnings;
@@ -23,6 +27,9 @@ void warn_packet(instruct *ir, const char *id, const char *fmt, ...) __attribute
 void error_packet(instruct *ir, const char *id, const char *fmt, ...) __attribute__((format(printf, 3, 4)));
 
 void ew_summary();
+
+// Installed in the object engine: its errors become counted messages.
+void ofile_error_handler(OFE::OBJECT_FILE *of, OFE::OF_ERROR_CODE code, const char *text);
 
 enum remark_lifetime : int { REMARK_RUN = 0, REMARK_PASS = 1 };
 void supress_remark(unsigned id, remark_lifetime life);

@@ -11,7 +11,6 @@
 #include "ofe/object_file.h"
 
 // until diag.h declares the engine handlers
-void ofile_error_handler(OFE::OBJECT_FILE *file, OFE::OF_ERROR_CODE code, const char *text);
 
 namespace {
 

@@ -1,7 +1,9 @@
 // The two passes over the source, and what comes before, between and after them.
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <cstdio>
 #include <cstring>
 
 #include "debug/coff_debug.h"
@@ -138,7 +140,9 @@ void prepare_pass1() {
   if (!macro_file[0]) {
     char name[FN_BUFSIZE] = {};
     fn_tmpnam(name, nullptr, "zqm");
-    strncpy(macro_file, name, sizeof macro_file - 1);
+    const size_t n = std::min(strlen(name), sizeof macro_file - 1);  // the name is at most 256 characters
+    memcpy(macro_file, name, n);
+    macro_file[n] = '\0';
   }
   MAC_open();
   open_sections_of_a_pass();

@@ -68,6 +68,8 @@ public:
     virtual uint64_t size() const = 0;            // in units
     virtual void set_size(uint64_t units) = 0;
     virtual uint64_t file_offset() const = 0;
+    // Index of the section header in the file.
+    virtual unsigned sh_id() const { return id(); }
     virtual bool is_build_attr() const = 0;
     virtual OF_GROUP_TABLE *group_api() { return nullptr; }
     // Format interface; null and code 3 on the wrong format.

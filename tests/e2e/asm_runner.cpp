@@ -127,7 +127,7 @@ TestSpec parse_spec(const fs::path &src) {
   std::istringstream in(read_file(src));
   std::string ln;
   int n = 0;
-  static const std::regex key(R"(;\s*(RUN|EXIT|EOF!|SECTION|SYMBOL|NOFILE|OBJECT):\s*(.*)$)");
+  static const std::regex key(R"(;\s*(RUN|EXIT|EOF!|SECTION|SYMBOL|NOFILE|OBJECT)(?::|(?=!))?\s*(.*)$)");
   while (std::getline(in, ln)) {
     ++n;
     std::smatch m;

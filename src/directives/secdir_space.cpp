@@ -1,0 +1,108 @@
+// .align, .space and .bes: moving the location counter of the current section.
+#include <cstdint>
+
+#include "directives/directives.h"
+#include "directives/secdir_internal.h"
+#include "directives/sections.h"
+#include "driver/diag.h"
+#include "driver/directive_ids.h"
+#include "driver/driver.h"
+#include "driver/pipeline.h"
+#include "expr/int128.h"
+#include "expr/symbols.h"
+#include "source/lexer.h"
+#include "target/arm/trg.h"
+
+namespace {
+
+constexpr unsigned long ARM_FILL = 0x01A00000;
+constexpr unsigned long THUMB_FILL = 0x46C046C0;
+constexpr int MAX_ALIGN_LOG2 = 15;   // 32K
+
+// The largest block .space and .bes reserve: what is left of the 32-bit
+// address space above the current address. A negative size is refused
+// outright: read as unsigned it would ask for gigabytes of zeros.
+bool space_size_ok(instruct *ir, int64_t n) {
+  const char *dir = DIR_id(ir) == DIR_BES ? ".bes" : ".space";
+  if (n < 0) {
+    error(ir->line, "E0004", "%s size must not be negative; found %lld", dir, static_cast<long long>(n));
+    return false;
+  }
+  const uint64_t room = UINT64_C(0xFFFFFFFF) - SCN_address();
+  if (static_cast<uint64_t>(n) > room) {
+    error(ir->line, "E0004", "%s size %lld goes beyond the 32-bit address space", dir, static_cast<long long>(n));
+    return false;
+  }
+  return true;
+}
+
+// Zeros in pass 2, through the field accumulator a word at a time.
+void insert_zeros(uint64_t bits) {
+  const INT128 zero{};
+  while (bits) {
+    const unsigned chunk = bits > 32 ? 32 : static_cast<unsigned>(bits);
+    SCN_insert_field(chunk, zero, nullptr, 0, false);
+    bits -= chunk;
+  }
+}
+
+}  // namespace
+
+void DP_align(instruct *ir) {
+  DIR_read_slot(ir, 0, DPS_ABSINT | DPS_OPTIONAL);
+  skip_to_expected_eol(ir->line);
+}
+
+void DP_space(instruct *ir) {
+  DIR_read_slot(ir, 0, DPS_ABSINT);
+  skip_to_expected_eol(ir->line);
+}
+
+void GD_align(instruct *ir) {
+  int32_t n = ir->oprnds[0] ? DIR_opnd_i32(ir->oprnds[0]) : 4;
+  int log2 = ispowerof2(n);
+  if (log2 < 0) {
+    log2 = nextpowerof2(n);
+    n = static_cast<int32_t>(UINT32_C(1) << (log2 & 31));
+    warn(ir->line, "W0001", "Power of 2 required, %d assumed", n);
+  }
+  if (log2 > MAX_ALIGN_LOG2) {
+    warn(ir->line, "W0001", "Maximum alignment is to 32K boundary - alignment ignored");
+    LBL_define();
+    return;
+  }
+  SCN_core_align(static_cast<unsigned long>(n) * 8, cur_state ? THUMB_FILL : ARM_FILL, SCN_trg_align);
+  LBL_define();
+}
+
+void GD_space(instruct *ir) {
+  const bool bes = DIR_id(ir) == DIR_BES;
+  SCN_align(8, 0);
+  if (!bes) LBL_define();
+  if (!ir->oprnds[0]) return;
+  const int64_t n = DIR_opnd_i64(ir->oprnds[0]);
+  if (!space_size_ok(ir, n)) return;
+
+  const uint64_t bits = static_cast<uint64_t>(n) * 8;
+  const uint32_t first = SCN_address();
+  if (pass1)
+    SCN_space(bits);
+  else
+    insert_zeros(bits);
+  // The last reserved byte: the next free bit rounded down to a byte, or
+  // one byte less when the block ended on a byte boundary.
+  const uint64_t next_bit = static_cast<uint64_t>(curpc) * 8 + curseg->scn_field_bits;
+  const uint32_t last = static_cast<uint32_t>(next_bit % 8 ? next_bit / 8 : next_bit / 8 - 1);
+  DIR_list_location(ir, bes ? last : first);
+
+  if (!bes) return;
+  // From a word boundary the label names the last reserved byte; otherwise
+  // the next free one.
+  if (curseg->scn_field_bits == 0 || curseg->scn_field_bits == 32) {
+    --curpc;
+    LBL_define();
+    ++curpc;
+  } else {
+    LBL_define();
+  }
+}
