@@ -13,5 +13,5 @@ message:
         .double -2.25
 
         .bss    count, 4, 4
-        .usect  ".scratch", 64, 8
+scratch .usect  ".scratch", 64, 8
 SIZE    .equ    $ - table

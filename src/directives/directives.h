@@ -1,5 +1,7 @@
 #pragma once
 // Handlers of the section, data and symbol directives.
+#include <cstdint>
+
 struct instruct;
 
 // ---- Section directives ----------------------------------------------------
@@ -86,3 +88,9 @@ void GD_setsym(instruct *ir);
 void GD_symdepend(instruct *ir);
 void GD_symver(instruct *ir);
 void GD_symmetainfo(instruct *ir);
+
+// SYMF_VIS value of a visibility directive's name: ".IMPORT" 1, ".EXPORT" 2,
+// ".PROTECTED" 3, ".HIDDEN" 4; 0 for any other name and in a COFF object.
+uint32_t string_to_sym_visibility(const char *name);
+// The directive name of a SYMF_VIS value, "UNKNOWN" for others.
+const char *sym_visibility_to_string(uint32_t vis);

@@ -43,12 +43,12 @@ bool read_block_size(instruct *ir, const operand *op, block_size *out) {
     out->members = tag ? tag->sym_members : nullptr;
     return true;
   }
-  const int64_t n = DIR_opnd_i64(op);
-  if (n < 0 || n > INT64_C(0xFFFFFFFF)) {
-    error(ir->line, "E0004", "Size of %s out of range: %lld", DIR_name(ir), static_cast<long long>(n));
+  const INT128 &n = op->value.v_val;
+  if (n < 0 || n > xi_from_uint(UINT32_C(0xFFFFFFFF))) {
+    error(ir->line, "E0004", "Size of %s out of range: %s", DIR_name(ir), DIR_int_text(n).c_str());
     return false;
   }
-  out->bytes = static_cast<uint64_t>(n);
+  out->bytes = n.to_u32();
   return true;
 }
 
@@ -149,13 +149,13 @@ void GD_bss(instruct *ir) {
   LBL_flushbuf(ir->line);
   const char *name = DIR_opnd_text(ir->oprnds[0]);
   if (!name || !ir->oprnds[1]) return;
+  block_size size;
+  if (!read_block_size(ir, ir->oprnds[1], &size)) return;
   symbol_record *sym = SYM_find(name);
   if (sym->sym_flags & SYMF_DEFINED) {
     error(ir->line, "E0300", "Symbol %s has already been defined", name);
     return;
   }
-  block_size size;
-  if (!read_block_size(ir, ir->oprnds[1], &size)) return;
 
   SCN_push();
   SCN_queue(SCN_KIND_BSS, ".bss");
@@ -181,13 +181,16 @@ void GD_usect(instruct *ir) {
     return;
   }
   const std::string name = label;
+  block_size size;
+  if (!read_block_size(ir, ir->oprnds[1], &size)) {
+    LBL_free_current();
+    return;
+  }
   if (SYM_find(name)->sym_flags & SYMF_DEFINED) {
     error(ir->line, "E0300", "Symbol %s has already been defined", name.c_str());
     LBL_free_current();
     return;
   }
-  block_size size;
-  if (!read_block_size(ir, ir->oprnds[1], &size)) return;
 
   SCN_push();
   SCN_queue(SCN_KIND_BSS, section);

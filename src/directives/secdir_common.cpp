@@ -25,6 +25,16 @@ int64_t DIR_opnd_i64(const operand *op) {
   return v;
 }
 
+std::string DIR_int_text(const INT128 &v) {
+  INT128 lo, hi;
+  XI_llitox(INT64_MIN, lo.b);
+  XI_llitox(INT64_MAX, hi.b);
+  if (v < lo || v > hi) return v.to_string();
+  int64_t n = 0;
+  XI_xtolli(v.b, &n);
+  return std::to_string(n);
+}
+
 bool DIR_opnd_is_tag(const operand *op) {
   return op && (op->value.v_type == VT_STAG || op->value.v_type == VT_UTAG);
 }

@@ -2,9 +2,11 @@
 // What the handlers of the section and symbol directives share: operand
 // access, the object format, and the listing of a location.
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "driver/records.h"
+#include "expr/int128.h"
 
 struct section_record;
 struct symbol_record;
@@ -20,6 +22,8 @@ const char *DIR_opnd_text(const operand *op);
 int32_t DIR_opnd_i32(const operand *op);
 // The operand's integer as a signed 64-bit value (the reader's width is 64).
 int64_t DIR_opnd_i64(const operand *op);
+// An integer as a message shows it: decimal, or hex beyond 64 bits.
+std::string DIR_int_text(const INT128 &v);
 // The operand is a structure or union tag read through the tag flag.
 bool DIR_opnd_is_tag(const operand *op);
 

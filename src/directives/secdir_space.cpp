@@ -22,15 +22,14 @@ constexpr int MAX_ALIGN_LOG2 = 15;   // 32K
 // The largest block .space and .bes reserve: what is left of the 32-bit
 // address space above the current address. A negative size is refused
 // outright: read as unsigned it would ask for gigabytes of zeros.
-bool space_size_ok(instruct *ir, int64_t n) {
+bool space_size_ok(instruct *ir, const INT128 &n) {
   const char *dir = DIR_id(ir) == DIR_BES ? ".bes" : ".space";
   if (n < 0) {
-    error(ir->line, "E0004", "%s size must not be negative; found %lld", dir, static_cast<long long>(n));
+    error(ir->line, "E0004", "%s size must not be negative; found %s", dir, DIR_int_text(n).c_str());
     return false;
   }
-  const uint64_t room = UINT64_C(0xFFFFFFFF) - SCN_address();
-  if (static_cast<uint64_t>(n) > room) {
-    error(ir->line, "E0004", "%s size %lld goes beyond the 32-bit address space", dir, static_cast<long long>(n));
+  if (n > xi_from_uint(UINT32_C(0xFFFFFFFF) - SCN_address())) {
+    error(ir->line, "E0004", "%s size %s goes beyond the 32-bit address space", dir, DIR_int_text(n).c_str());
     return false;
   }
   return true;
@@ -80,10 +79,10 @@ void GD_space(instruct *ir) {
   SCN_align(8, 0);
   if (!bes) LBL_define();
   if (!ir->oprnds[0]) return;
-  const int64_t n = DIR_opnd_i64(ir->oprnds[0]);
+  const INT128 &n = ir->oprnds[0]->value.v_val;
   if (!space_size_ok(ir, n)) return;
 
-  const uint64_t bits = static_cast<uint64_t>(n) * 8;
+  const uint64_t bits = static_cast<uint64_t>(n.to_u32()) * 8;
   const uint32_t first = SCN_address();
   if (pass1)
     SCN_space(bits);

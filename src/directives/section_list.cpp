@@ -30,9 +30,9 @@ struct saved_section {
   std::string name;
 } pushed;
 
-OFE::ELF_SECTION *elf_of(const section_record *s) {
-  return object_format() == 2 ? dynamic_cast<OFE::ELF_SECTION *>(s->scn_object) : nullptr;
-}
+bool elf_object() { return ofile && ofile->format() == OFE::OFF_ELF; }
+
+OFE::ELF_SECTION *elf_of(const section_record *s) { return dynamic_cast<OFE::ELF_SECTION *>(s->scn_object); }
 
 // What each kind asks of its object section at creation.
 void shape_object_section(section_record *s) {
@@ -177,7 +177,7 @@ void SCN_flush() {
 }
 
 void SCN_def_snames() {
-  const bool elf = object_format() == 2;
+  const bool elf = elf_object();
   for (section_record *s = seglist; s; s = s->scn_next) {
     OFE::OF_SYMBOL *os = s->scn_object->create_section_symbol();
     if (!os) continue;
@@ -205,7 +205,7 @@ void SCN_setvcode() {
 }
 
 bool SCN_iscomdat(section_record *section) {
-  if (!section || object_format() != 2) return false;
+  if (!section || !elf_object()) return false;
   if (pass1) {
     for (const section_record *g = seglist; g; g = g->scn_next) {
       if (g->scn_kind != SCN_KIND_GROUP || g->scn_group_kind != 1 || !g->scn_object->group_type()) continue;

@@ -1,7 +1,7 @@
 // The target's part in finishing the object: file header fields, the
 // exception index sections, symbol values and linkage, and the statistics at
 // the end of the listing.
-#include <cinttypes>
+#include <cstdarg>
 #include <cstdio>
 #include <cstring>
 

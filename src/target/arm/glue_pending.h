@@ -27,7 +27,6 @@ enum : uint32_t {
 uint32_t arm_arch();
 
 constexpr bool arch_v5e_or_higher(uint32_t arch) { return arch >= ARCH_V5E && arch <= ARCH_V8M33; }
-
 constexpr bool arch_v6_or_higher(uint32_t arch) { return arch >= ARCH_V6 && arch <= ARCH_V8M33; }
 constexpr bool arch_v7_or_higher(uint32_t arch) { return arch >= ARCH_V7A8 && arch <= ARCH_V8M33; }
 constexpr bool arch_t2_capable(uint32_t arch) { return arch_v7_or_higher(arch) || arch == ARCH_V6M0; }
@@ -37,8 +36,12 @@ enum : long {
   FLOAT_FPV4SPD16 = 16, FLOAT_VFPV2 = 17, FLOAT_VFPV3 = 18, FLOAT_VFPV3D16 = 19, FLOAT_NONE = 21,
 };
 
-// ---- Thumb-2 statistics, counted in pass 2 with a listing ------------------------------
+// ---- Thumb-2 trial encodings and statistics -------------------------------------------
 
+// Set while a trial encoding runs: the output record takes no bits.
+extern uint8_t suppress_output;
+
+// Counted in pass 2 when a listing is made.
 extern int64_t num_thumb2_keep;
 extern int64_t num_thumb2_conv;
 extern int64_t num_orig_thumb;

@@ -18,6 +18,9 @@
 // The target state step makes it real; no architecture is selected before it.
 [[gnu::weak]] uint32_t arm_arch() { return ARCH_NONE; }
 
+// The Thumb-2 encoder runs trials; no trial exists before it.
+[[gnu::weak]] uint8_t suppress_output = 0;
+
 // The Thumb-2 encoder counts these; without it no Thumb-2 instruction is seen.
 [[gnu::weak]] int64_t num_thumb2_keep = 0;
 [[gnu::weak]] int64_t num_thumb2_conv = 0;

@@ -1,0 +1,9 @@
+; Bad elements of data directives: each is reported and left out.
+        .data
+        .word   1,,2            ;! E0005 Operand missing
+        .byte   1.5             ;! E0201 Illegal floating-point expression
+        .cstring 1, "a"         ;! E0004 Invalid string
+        .cstring "b\"           ;! E0000 Invalid .cstring format
+        .byte   ext             ;! E0004 Invalid data size for relocation
+        .word   ext             ;! E0001 Relocation for ext is not supported yet
+; EOF! E0300

@@ -1,0 +1,18 @@
+; .space and .bes reserve zeros; a label on .space names the first reserved
+; byte, one on .bes the last one when the block ends on a word boundary, and
+; otherwise the next free byte.
+        .data
+s1:     .space  3
+s0:     .space  0
+        .byte   0ffh
+b4:     .bes    4
+b1:     .bes    1
+        .byte   0eeh
+        .align  4
+w4:     .bes    4
+; SECTION: .data: 00 00 00 ff 00 00 00 00 00 ee 00 00 00 00 00 00
+; SYMBOL: s1 00000000 0 OBJECT LOCAL HIDDEN .data
+; SYMBOL: s0 00000003 0 OBJECT LOCAL HIDDEN .data
+; SYMBOL: b4 00000007 0 OBJECT LOCAL HIDDEN .data
+; SYMBOL: b1 00000009 0 OBJECT LOCAL HIDDEN .data
+; SYMBOL: w4 0000000f 0 OBJECT LOCAL HIDDEN .data

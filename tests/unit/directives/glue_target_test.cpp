@@ -1,0 +1,317 @@
+// Target hooks of the object glue: float word order, the alignment operand of
+// .bss/.usect, relocation types and adjustments, exception index sections and
+// the EABI version of the file header.
+#include <cstdlib>
+
+#include "directives/sections.h"
+#include "driver/diag.h"
+#include "driver/driver.h"
+#include "driver/options.h"
+#include "driver/records.h"
+#include "expr/fval.h"
+#include "expr/reloc.h"
+#include "expr/symbols.h"
+#include "ofe/elf_defs.h"
+#include "ofe/elf_file.h"
+#include "ofe/elf_section.h"
+#include "ofe/object_file.h"
+#include "ofe/of_reloc_type.h"
+#include "glue_fixture.h"
+#include "target/arm/trg.h"
+
+namespace {
+
+operand int_operand(int64_t n) {
+  operand op{};
+  op.kind = OP_ICON;
+  op.value.v_type = VT_ICON;
+  op.value.v_val = xi_from_i64(n);
+  return op;
+}
+
+// Elements of relocation programs, named by their templates' ids.
+OFE::OF_RELOC_TYPE re_push("RE_PUSH", 0, OFE::OFRE_PUSH, nullptr);
+OFE::OF_RELOC_TYPE re_pushpc("RE_PUSHPC", 0, OFE::OFRE_PUSHPC, nullptr);
+OFE::OF_RELOC_TYPE re_pushuk("RE_PUSHUK", 0, OFE::OFRE_PUSHUK, nullptr);
+OFE::OF_RELOC_TYPE re_sub("RE_SUB", 0, OFE::OFRE_SUB, nullptr);
+OFE::OF_RELOC_TYPE re_add("RE_ADD", 0, OFE::OFRE_ADD, nullptr);
+
+}  // namespace
+
+TEST_F(GlueTest, FloatWordsFollowFloatUnitAndByteOrder) {
+  struct row {
+    long float_unit;  // 0: option not given
+    bool big;
+    short size;
+    const char *bytes;
+  };
+  // High word 0x3FF00000, low word 0x00000001.
+  const row rows[] = {
+      {0, false, 1, "01 00 00 00 00 00 F0 3F"},
+      {21, false, 1, "01 00 00 00 00 00 F0 3F"},
+      {17, false, 1, "01 00 00 00 00 00 F0 3F"},
+      {16, false, 1, "01 00 00 00 00 00 F0 3F"},
+      // A unit outside the VFP family keeps the high word first.
+      {20, false, 1, "00 00 F0 3F 01 00 00 00"},
+      {0, true, 1, "3F F0 00 00 00 00 00 01"},
+      {18, true, 1, "3F F0 00 00 00 00 00 01"},
+      {0, false, 0, "00 00 F0 3F"},
+      {0, true, 0, "3F F0 00 00"},
+  };
+  for (const row &r : rows) {
+    TearDown();
+    SetUp();
+    if (r.float_unit) global_opts->setopt(OPT_FLOAT_SUPPORT, r.float_unit);
+    big_endian_code = big_endian_data = r.big;
+    start_pass2();
+    SCN_queue(SCN_KIND_DATA, ".data");
+    trg_fval value{{0x3FF00000u, 0x00000001u}};
+    TRG_emit_flt(nullptr, &value, r.size);
+    finish();
+    EXPECT_EQ(hex(bytes(".data")), r.bytes) << "unit " << r.float_unit << " big " << r.big << " size " << r.size;
+  }
+}
+
+TEST_F(GlueTest, FloatOfAnotherSizeEndsTheRun) {
+  start_pass2();
+  SCN_queue(SCN_KIND_DATA, ".data");
+  trg_fval value{{0, 0}};
+  EXPECT_EXIT(TRG_emit_flt(nullptr, &value, 2), ::testing::ExitedWithCode(1), "");
+}
+
+TEST_F(GlueTest, UsectAlignmentOperand) {
+  struct row {
+    bool has_align;
+    int64_t align;
+    uint32_t expect_address;
+    const char *id;  // null: no message
+    const char *text;
+  };
+  // Each row starts at byte 1 of an uninitialised section.
+  const row rows[] = {
+      {false, 0, 1, nullptr, nullptr},
+      {true, 1, 1, nullptr, nullptr},
+      {true, 4, 4, nullptr, nullptr},
+      {true, 3, 4, "W0001", "Power of 2 required, 4 assumed"},
+      {true, 0, 1, "W0001", "Power of 2 required, 1 assumed"},
+      {true, -8, 1, "W0001", "Power of 2 required, 1 assumed"},
+      {true, 32768, 32768, nullptr, nullptr},
+      {true, 40000, 1, "W0001", "Maximum alignment is to 32K boundary - alignment ignored"},
+      {true, 65536, 1, "W0001", "Maximum alignment is to 32K boundary - alignment ignored"},
+      {true, int64_t{1} << 31, 1, "W0001", "Maximum alignment is to 32K boundary - alignment ignored"},
+      {true, int64_t{1} << 32, 1, "W0000", "Specified alignment is outside accessible memory - ignored"},
+  };
+  for (const row &r : rows) {
+    TearDown();
+    SetUp();
+    start_pass2();
+    SCN_queue(SCN_KIND_BSS, ".bss");
+    curpc = 1;
+    operand align = int_operand(r.align);
+    ::testing::internal::CaptureStderr();
+    const uint32_t pc = TRG_usect_align(8, nullptr, r.has_align ? &align : nullptr, nullptr);
+    const std::string screen = ::testing::internal::GetCapturedStderr();
+    EXPECT_EQ(pc, curpc) << "align " << r.align;
+    EXPECT_EQ(SCN_address(), r.expect_address) << "align " << r.align;
+    if (r.id) {
+      EXPECT_TRUE(shown(screen, r.id, r.text)) << "align " << r.align << "\n" << screen;
+    } else {
+      EXPECT_EQ(screen, "") << "align " << r.align;
+    }
+    EXPECT_EQ(num_errors, 0u);
+  }
+}
+
+TEST_F(GlueTest, UsectExtraOperandIsRefusedAfterAligning) {
+  start_pass2();
+  SCN_queue(SCN_KIND_BSS, ".bss");
+  curpc = 1;
+  operand align = int_operand(2);
+  operand extra = int_operand(1);
+  ::testing::internal::CaptureStderr();
+  EXPECT_EQ(TRG_usect_align(8, nullptr, &align, &extra), curpc);
+  EXPECT_EQ(SCN_address(), 2u);
+  EXPECT_TRUE(shown(::testing::internal::GetCapturedStderr(), "E0003", "Unexpected trailing operand(s)"));
+  EXPECT_EQ(num_errors, 1u);
+}
+
+TEST_F(GlueTest, BuiltInFunctionRelocationTypes) {
+  struct row {
+    long eabi_compat;  // 0: option not given
+    const char *name;
+    int type;
+  };
+  const row rows[] = {
+      {0, "$$INIT_ENTRY", OFE::OFR_ARM_TARGET1},   {10, "$$INIT_ENTRY", OFE::OFR_PCRLONG},
+      {11, "$$INIT_ENTRY", OFE::OFR_ARM_TARGET1},  {0, "$$EXTAB_LP", OFE::OFR_ARM_PREL31},
+      {0, "$$EXIDX_FUNC", OFE::OFR_ARM_PREL31},    {0, "$$EXIDX_EXTAB", OFE::OFR_ARM_PREL31},
+      {10, "$$EXTAB_RTTI", OFE::OFR_ARM_TARGET2},  {0, "$$BITS", 0},
+      {0, nullptr, 0},
+  };
+  for (const row &r : rows) {
+    TearDown();
+    SetUp();
+    if (r.eabi_compat) global_opts->setopt(OPT_EABI_COMPAT, r.eabi_compat);
+    EXPECT_EQ(TRG_bif_rtype(r.name), r.type) << (r.name ? r.name : "null") << " compat " << r.eabi_compat;
+  }
+}
+
+TEST_F(GlueTest, SymbolMinusPcBecomesPcRelative) {
+  start_pass2();
+  SCN_queue(SCN_KIND_DATA, ".data");
+  symbol_record *lab = SYM_find("lab");
+  lab->sym_value.v_type = VT_LABEL;
+  lab->sym_value.v_val = xi_from_uint(0x20);
+  lab->sym_value.v_section = curseg;
+  lab->sym_value.v_flags = VF_ADDRESS;
+  lab->sym_value.v_bits = 7;
+
+  value_record v{};
+  v.v_type = VT_LABEL;
+  v.v_val = xi_from_uint(0x1C);
+  v.v_rel = static_cast<relrec *>(std::calloc(3, sizeof(relrec)));
+  v.v_rel_count = v.v_rel_cap = 3;
+  v.v_rel[0].rr_type = &re_push;
+  v.v_rel[0].rr_symbol = lab;
+  v.v_rel[1].rr_type = &re_pushpc;
+  v.v_rel[2].rr_type = &re_sub;
+
+  const OFE::OF_RELOC_TYPE *type = ofile->reloc_type(OFE::OFR_RELLONG);
+  short field_size = 0;
+  TRG_reloc_preprocess(&v, 0x1C, &type, &field_size);
+  ASSERT_NE(type, nullptr);
+  EXPECT_EQ(type->template_id(), OFE::OFR_PCRLONG);
+  EXPECT_EQ(type->number(), 3u);  // R_ARM_REL32
+  EXPECT_EQ(field_size, 32);
+  EXPECT_EQ(v.v_type, VT_LABEL);
+  EXPECT_EQ(v.v_symbol, lab);
+  EXPECT_EQ(v.v_section, curseg);
+  EXPECT_EQ(v.v_val.to_u32(), 0x20u);
+  EXPECT_EQ(v.v_flags, VF_ADDRESS);
+  EXPECT_EQ(v.v_bits, 7);
+  EXPECT_EQ(v.v_rel, nullptr);
+  EXPECT_EQ(v.v_rel_count, 0);
+
+  // "s + 4" is another program and stays as it is.
+  v.v_rel = static_cast<relrec *>(std::calloc(3, sizeof(relrec)));
+  v.v_rel_count = v.v_rel_cap = 3;
+  v.v_rel[0].rr_type = &re_push;
+  v.v_rel[0].rr_symbol = lab;
+  v.v_rel[1].rr_type = &re_pushuk;
+  v.v_rel[2].rr_type = &re_add;
+  type = ofile->reloc_type(OFE::OFR_RELLONG);
+  TRG_reloc_preprocess(&v, 0, &type, &field_size);
+  EXPECT_EQ(type->template_id(), OFE::OFR_RELLONG);
+  EXPECT_EQ(v.v_rel_count, 3);
+  std::free(v.v_rel);
+}
+
+TEST_F(GlueTest, RelocationAddendsAndDataSizes) {
+  value_record v{};
+  v.v_val = xi_from_uint(0x12345678);
+  EXPECT_EQ(TRG_reloc_disp(&v, ofile->reloc_type(OFE::OFR_ARM_MOVT_ABS)), 0x12345678u);
+  EXPECT_EQ(TRG_reloc_disp(&v, ofile->reloc_type(OFE::OFR_ARM_THM_MOVT_ABS)), 0x12345678u);
+  EXPECT_EQ(TRG_reloc_disp(&v, ofile->reloc_type(OFE::OFR_RELLONG)), 0u);
+  v.v_type = VT_LABEL;
+  EXPECT_TRUE(TRG_reloc_requires_sym_rel(&v));
+  v.v_type = VT_SCNREL;
+  EXPECT_FALSE(TRG_reloc_requires_sym_rel(&v));
+
+  // Only 16 and 32 bits have data relocations.
+  start_pass2();
+  SCN_queue(SCN_KIND_DATA, ".data");
+  operand op{};
+  op.kind = OP_SYMBOL;
+  op.value.v_type = VT_UNDEFSYM;
+  op.value.v_symbol = SYM_find("ext");
+  ::testing::internal::CaptureStderr();
+  TRG_reloc_data(nullptr, &op, 8);
+  EXPECT_TRUE(shown(::testing::internal::GetCapturedStderr(), "E0004", "Invalid data size for relocation"));
+  EXPECT_EQ(num_errors, 1u);
+}
+
+TEST_F(GlueTest, ExceptionIndexSectionsUnderEabi) {
+  for (bool eabi : {false, true}) {
+    TearDown();
+    SetUp();
+    if (eabi) global_opts->setopt(OPT_ABI, 1L);
+    SCN_queue(SCN_KIND_SECT, ".ARM.exidx.text");
+    section_record *exidx = curseg;
+    SCN_queue(SCN_KIND_SECT, ".ARM.exidx.other");
+    section_record *unbound = curseg;
+    exidx->scn_exidx_target = SCN_query(".text");
+    TRG_finalize_sections();
+    auto *e = dynamic_cast<OFE::ELF_SECTION *>(exidx->scn_object);
+    auto *u = dynamic_cast<OFE::ELF_SECTION *>(unbound->scn_object);
+    ASSERT_TRUE(e && u);
+    if (eabi) {
+      EXPECT_EQ(e->sh_type(), 0x70000001u);
+      EXPECT_EQ(e->sh_flags(), 0x82u);
+      EXPECT_EQ(e->sh_link(), SCN_query(".text")->scn_object->id());
+      // No described section: no link, and so no link order.
+      EXPECT_EQ(u->sh_type(), 0x70000001u);
+      EXPECT_EQ(u->sh_flags(), 0x2u);
+      EXPECT_EQ(u->sh_link(), 0u);
+    } else {
+      EXPECT_EQ(e->sh_type(), OFE::SHT_PROGBITS);
+      EXPECT_EQ(e->sh_link(), 0u);
+    }
+  }
+}
+
+TEST_F(GlueTest, EabiVersionInTheFileHeader) {
+  struct row {
+    bool eabi;
+    long compat;  // 0: option not given
+    uint32_t version;
+  };
+  const row rows[] = {{false, 0, 5}, {false, 10, 5}, {true, 0, 5}, {true, 10, 4}, {true, 11, 4}};
+  for (const row &r : rows) {
+    TearDown();
+    SetUp();
+    if (r.eabi) global_opts->setopt(OPT_ABI, 1L);
+    if (r.compat) global_opts->setopt(OPT_EABI_COMPAT, r.compat);
+    TRG_set_fhdr();
+    EXPECT_EQ(ofile->elf_api()->e_flags() >> 24, r.version) << "eabi " << r.eabi << " compat " << r.compat;
+  }
+}
+
+TEST_F(GlueTest, TrialEncodingsHoldOutputAndMessagesBack) {
+  EXPECT_TRUE(TRG_IOR_write());
+  errors_or_warn = 0;
+  EXPECT_TRUE(TRG_error());
+  EXPECT_TRUE(TRG_warn());
+  EXPECT_EQ(errors_or_warn, 0u);
+  output_error = 0;
+  EXPECT_FALSE(TRG_error());
+  EXPECT_FALSE(TRG_warn());
+  output_error = 1;
+  EXPECT_EQ(errors_or_warn, 2u);
+  EXPECT_EQ(std::string(TRG_opname(OP_REGLIST)).size(), 21u);
+  EXPECT_STREQ(TRG_irname(9999), "INVALID INSTRUCTION TYPE ");
+  EXPECT_STREQ(TRG_tkname(9999), "INVALID TOKEN TYPE ");
+}
+
+TEST_F(GlueTest, VersionedNamesTakeTheLinkageOfTheirSymbol) {
+  for (bool eabi : {false, true}) {
+    TearDown();
+    SetUp();
+    if (eabi) global_opts->setopt(OPT_ABI, 1L);
+    symbol_record *target = SYM_find("f");
+    target->sym_storage = SYM_STOR_GLOBAL;
+    target->sym_flags |= SYMF_WEAK;
+    SYM_set_vis(target, SYM_VIS_EXPORT);
+    symbol_record *versioned = SYM_find("f@V1");
+    versioned->sym_flags |= SYMF_VERSIONED;
+    versioned->sym_value.v_symbol = target;
+    versioned->sym_object = ofile->symbol_table()->new_symbol();
+    versioned->sym_object->set_binding(OFE::OFB_LOCAL);
+    TRG_finalize_symbols();
+    auto *es = versioned->sym_object->elf_api();
+    ASSERT_NE(es, nullptr);
+    EXPECT_EQ(es->binding(), eabi ? OFE::OFB_WEAK : OFE::OFB_LOCAL) << "eabi " << eabi;
+    if (eabi) {
+      EXPECT_EQ(es->visibility(), 0) << "exported: default visibility";
+    }
+  }
+}
