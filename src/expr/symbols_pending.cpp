@@ -53,9 +53,7 @@ void no_section_manager() { error_internal(1, nullptr, "section record read befo
   error_internal(1, nullptr, "build-attribute list without the attribute tables");
 }
 
-// Target state (instruction tables step) and the instruction parser's mark
-// of a modified operand (instruction parser step).
-[[gnu::weak]] uint32_t cur_state = 0;
+// The instruction parser's mark of a modified operand (instruction parser step).
 [[gnu::weak]] uint8_t modified_op = 0;
 
 // Page control of the listing file comes with the listing step.

@@ -251,8 +251,12 @@ TEST_P(AsmTest, Run) {
 
   fs::path golden_err = fs::path(src).replace_extension(".stderr");
   fs::path golden_out = fs::path(src).replace_extension(".stdout");
-  if (fs::exists(golden_err)) EXPECT_EQ(r.err, read_file(golden_err)) << where << ": stderr differs";
-  if (fs::exists(golden_out)) EXPECT_EQ(r.out, read_file(golden_out)) << where << ": stdout differs";
+  if (fs::exists(golden_err)) {
+    EXPECT_EQ(r.err, read_file(golden_err)) << where << ": stderr differs";
+  }
+  if (fs::exists(golden_out)) {
+    EXPECT_EQ(r.out, read_file(golden_out)) << where << ": stdout differs";
+  }
 
   std::vector<Message> got = parse_messages(r.err);
   std::vector<bool> used(got.size(), false);

@@ -5,8 +5,6 @@
 #include "target/arm/opcodes.h"
 
 [[gnu::weak]] extern const mnemonic_row trg_mnemonics[] = {{nullptr, {}}};
-[[gnu::weak]] uint32_t encode_state = 0;
-[[gnu::weak]] uint8_t ual_mode = 1;
 
 // No architecture is selected before the target state lands.
 [[gnu::weak]] bool arch_is_v6_or_higher() { return false; }

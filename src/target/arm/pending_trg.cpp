@@ -14,7 +14,6 @@
 // ---- Target state and tables (instruction tables and target state step) -------
 
 [[gnu::weak]] uint32_t instlen = 0;
-[[gnu::weak]] uint32_t cur_state = 0;
 [[gnu::weak]] extern const sym_init trg_keywords[] = {{nullptr, 0, 0}};
 [[gnu::weak]] extern const sym_init trg_ucpredefs[] = {{nullptr, 0, 0}};
 [[gnu::weak]] extern const sym_init trg_lcpredefs[] = {{nullptr, 0, 0}};

@@ -16,6 +16,7 @@ namespace OFE { class OF_RELOC_TYPE; }
 
 // State of the code being assembled: 0 ARM, 1 Thumb, 2 Thumb-2.
 extern uint32_t cur_state;
+extern uint32_t def_state;   // state at the start of each pass
 
 // Static rows the driver enters at start-up (and again before pass 2).
 extern const sym_init trg_keywords[];

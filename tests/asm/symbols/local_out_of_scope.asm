@@ -3,5 +3,5 @@
         .text
 $1:     .word   1
         .newblock
-        .word   $1
+x       .set    $1
 ; EOF! E0300 The following symbols are undefined: $1_$2

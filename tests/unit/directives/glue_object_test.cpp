@@ -119,6 +119,7 @@ TEST_F(GlueTest, GroupFaultsAreInternalErrors) {
     SetUp();
     section_record *g = make_group("g", {r.member}, r.kind);
     if (r.signature) object_symbol("g");
+    screen_line_width = 400;  // the temporary file's name must not wrap the text
     EXPECT_EXIT(BLD_group_section(g), ::testing::ExitedWithCode(1), r.message) << r.message;
   }
 }

@@ -17,7 +17,9 @@ TEST_F(SecdirTest, VisibilityNamesBothWays) {
                       {".GLOBAL", 0}, {".hidden", 0}, {nullptr, 0}};
   for (const row &r : rows) {
     EXPECT_EQ(string_to_sym_visibility(r.name), r.vis) << (r.name ? r.name : "null");
-    if (r.vis) EXPECT_STREQ(sym_visibility_to_string(r.vis), r.name);
+    if (r.vis) {
+      EXPECT_STREQ(sym_visibility_to_string(r.vis), r.name);
+    }
   }
   EXPECT_STREQ(sym_visibility_to_string(0), "UNKNOWN");
   EXPECT_STREQ(sym_visibility_to_string(7), "UNKNOWN");

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "driver/driver.h"
-#include "target/arm/pending_state.h"
+#include "target/arm/state.h"
 #include "target/arm/trg.h"
 
 [[gnu::weak]] void add_incl_path(const char *dir) { paths.emplace_back(dir); }

@@ -1,14 +1,17 @@
 // Pending labels, their definition in both passes, and local-label scopes.
 #include "symbols_fixture.h"
 
+#include "directives/sections.h"
+
 #include "source/lexer.h"
 
 namespace {
 
 using Labels = SymbolsTest;
 
-section_record *const text_scn = reinterpret_cast<section_record *>(0x100);
-section_record *const data_scn = reinterpret_cast<section_record *>(0x200);
+section_record text_record{}, data_record{};
+section_record *const text_scn = &text_record;
+section_record *const data_scn = &data_record;
 
 std::vector<std::string> pending_names() {
   std::vector<std::string> out;

@@ -2,6 +2,8 @@
 // between the passes and the end-of-run checks.
 #include "symbols_fixture.h"
 
+#include "directives/sections.h"
+
 #include "source/copy.h"
 #include "source/lexer.h"
 #include "source/ophash.h"
@@ -101,7 +103,8 @@ TEST_F(SymTable, StorageFollowsDefinitionAndGlobal) {
 }
 
 TEST_F(SymTable, DefineTakesSectionAndCopiesTheValue) {
-  auto *scn = reinterpret_cast<section_record *>(0x1000);
+  static section_record record{};
+  section_record *scn = &record;
   curseg = scn;
   symbol_record *a = SYM_find("a");
   value_record v = icon(7);
