@@ -37,7 +37,7 @@ enum : uint32_t {
   FPE_OVERFLOW = 4,
   FPE_UNDERFLOW = 8,
 };
-extern thread_local uint32_t fp_error;
+extern uint32_t fp_error;
 
 struct linebuf;
 // Reports the overflow (4) or underflow (8) bit of fp_error as error E0201

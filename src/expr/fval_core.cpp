@@ -6,7 +6,7 @@
 #include "expr/fval.h"
 #include "expr/fval_internal.h"
 
-thread_local uint32_t fp_error = 0;
+uint32_t fp_error = 0;
 uint32_t two_to_the[32];
 
 const simul_fval pos_zero{{}, FV_ZEROEXP, 0};

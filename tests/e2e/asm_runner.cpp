@@ -5,14 +5,15 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "elf_reader.h"
@@ -89,22 +90,81 @@ struct Message {
   std::string text;
 };
 
+struct Header {
+  std::string file;
+  long line = 0;
+  std::string rest;
+};
+
+// A message's first line: ["file", ]KIND( at line N:| at EOF:|:)rest
+bool parse_header(std::string_view ln, Header &h) {
+  if (ln.starts_with('"')) {
+    size_t close = ln.find("\", ", 1);
+    if (close == std::string_view::npos) return false;
+    h.file = std::string(ln.substr(1, close - 1));
+    ln.remove_prefix(close + 3);
+  }
+  static constexpr std::string_view kinds[] = {"ERROR!  ", "WARNING!", "REMARK  ", "INTERNAL ERROR!", "FATAL ERROR"};
+  bool kind = false;
+  for (std::string_view k : kinds) {
+    if (ln.starts_with(k)) {
+      ln.remove_prefix(k.size());
+      kind = true;
+      break;
+    }
+  }
+  if (!kind) return false;
+  if (ln.starts_with(" at line ")) {
+    ln.remove_prefix(9);
+    size_t colon = ln.find(':');
+    if (colon == std::string_view::npos || colon == 0) return false;
+    std::string num(ln.substr(0, colon));
+    h.line = num[0] == '>' ? 65535 : std::stol(num);
+    ln.remove_prefix(colon + 1);
+  } else if (ln.starts_with(" at EOF:")) {
+    ln.remove_prefix(8);
+  } else if (ln.starts_with(':')) {
+    ln.remove_prefix(1);
+  } else {
+    return false;
+  }
+  h.rest = std::string(ln);
+  return true;
+}
+
+// A directive comment of the test: "; KEY: value" (the colon is optional before "!").
+bool parse_key(const std::string &ln, std::string &key, std::string &value) {
+  static constexpr std::string_view keys[] = {"RUN", "EXIT", "EOF!", "SECTION", "SYMBOL", "NOFILE", "OBJECT"};
+  for (size_t semi = ln.find(';'); semi != std::string::npos; semi = ln.find(';', semi + 1)) {
+    size_t p = semi + 1;
+    while (p < ln.size() && std::isspace(static_cast<unsigned char>(ln[p]))) ++p;
+    std::string_view at = std::string_view(ln).substr(p);
+    for (std::string_view k : keys) {
+      if (!at.starts_with(k)) continue;
+      std::string_view after = at.substr(k.size());
+      if (after.starts_with(':')) after.remove_prefix(1);
+      else if (!k.ends_with('!') && !after.empty() && !std::isspace(static_cast<unsigned char>(after[0]))) continue;
+      key = std::string(k);
+      value = trim(std::string(after));
+      return true;
+    }
+  }
+  return false;
+}
+
 std::vector<Message> parse_messages(const std::string &err) {
   std::vector<Message> out;
   std::istringstream in(err);
   std::string ln;
   std::vector<std::string> lines;
   while (std::getline(in, ln)) lines.push_back(ln);
-  static const std::regex head(
-      R"re(^(?:"([^"]*)", )?(ERROR!  |WARNING!|REMARK  |INTERNAL ERROR!|FATAL ERROR)(?: at line (>?\d+):| at EOF:|:)(.*)$)re");
   for (size_t i = 0; i < lines.size(); ++i) {
-    std::smatch m;
-    if (!std::regex_match(lines[i], m, head)) continue;
+    Header h;
+    if (!parse_header(lines[i], h)) continue;
     Message msg;
-    msg.file = m[1];
-    std::string num = m[3];
-    msg.line = num.empty() ? 0 : (num[0] == '>' ? 65535 : std::stol(num));
-    std::string rest = m[4];
+    msg.file = h.file;
+    msg.line = h.line;
+    std::string rest = h.rest;
     // Continuation lines are indented with blanks; the source line starts with a tab.
     size_t j = i + 1;
     while (j < lines.size() && !lines[j].empty() && lines[j][0] == ' ') rest += "\n" + lines[j++];
@@ -127,12 +187,10 @@ TestSpec parse_spec(const fs::path &src) {
   std::istringstream in(read_file(src));
   std::string ln;
   int n = 0;
-  static const std::regex key(R"(;\s*(RUN|EXIT|EOF!|SECTION|SYMBOL|NOFILE|OBJECT)(?::|(?=!))?\s*(.*)$)");
   while (std::getline(in, ln)) {
     ++n;
-    std::smatch m;
-    if (std::regex_search(ln, m, key)) {
-      std::string k = m[1], v = trim(m[2]);
+    std::string k, v;
+    if (parse_key(ln, k, v)) {
       if (k == "RUN") t.args = v;
       else if (k == "EXIT") t.exit_status = std::stoi(v);
       else if (k == "EOF!") {
