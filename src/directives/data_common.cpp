@@ -42,10 +42,9 @@ void data_reloc(instruct *ir, operand *op, unsigned bits) {
 }
 
 void data_emit(instruct *ir, unsigned bits, uint32_t value) {
-  IOR_STRUCT ior;
-  IOR_clear(&ior);
-  IOR_write(&ior, bits, 0, value);
-  IOR_dump(&ior, ir, 0);
+  // The relocation's listing mark may already be in the record.
+  IOR_write(&ir->ior, bits, 0, value);
+  IOR_dump(&ir->ior, ir, 0);
 }
 
 void data_list_first_only(instruct *ir, uint32_t lst_bit) {

@@ -11,6 +11,7 @@
 #include <string>
 #include <utility>
 
+#include "directives/ior.h"
 #include "expr/int128.h"
 
 struct instruct;
@@ -76,13 +77,6 @@ struct section_record {
   const char *name() const;
 };
 
-// The instruction output record: a statement builds up to 32 bits here
-// before they go to the section.
-struct IOR_STRUCT {
-  uint8_t ior_data[4];
-  uint16_t ior_length;   // bits so far, at most 32
-  char ior_relch[1];     // listing mark of each 32-bit word, blank by default
-};
 
 // ---- State -----------------------------------------------------------------
 

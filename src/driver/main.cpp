@@ -7,7 +7,7 @@
 #include <typeinfo>
 #include <unistd.h>
 
-#include "debug/bld_object.h"
+#include "debug/object_build.h"
 #include "debug/dwarf_directives.h"
 #include "directives/directives.h"
 #include "driver/diag.h"

@@ -66,6 +66,7 @@ instruct *IR_alloc(uint16_t kind, const void *record, linebuf *line) {
   ir->kind = kind;
   ir->record = record;
   ir->line = line;
+  IOR_clear(&ir->ior);
   return ir;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // The records that carry one statement from the lexer to the pass handlers.
 #include <cstdint>
+#include "directives/ior.h"
 #include "expr/value.h"
 
 struct ophashtbl;
@@ -101,6 +102,7 @@ struct instruct {
   const void *record;      // dir_oprec row for directives, mnemonic row for instructions
   operand *oprnds[IR_MAX_SLOTS];
   linebuf *line;
+  IOR_STRUCT ior{{0, 0, 0, 0}, 0, {' '}};   // the statement's output bits
   // Condition, size and state flags of the instruction parser come with it.
 
   const dir_oprec *dir() const { return static_cast<const dir_oprec *>(record); }

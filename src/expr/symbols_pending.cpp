@@ -9,36 +9,9 @@
 // substitution symbols; until then no name has a substitute.
 [[gnu::weak]] const std::string *SYM_register_substitute(const std::string &) { return nullptr; }
 
-// The section manager owns curseg; the field accumulator and jump lists come
-// with it and with jump expansion. Until then no bits wait in an accumulator
-// and no section has a jump list.
-[[gnu::weak]] section_record *curseg = nullptr;
-[[gnu::weak]] uint32_t SYM_label_address() { return curpc; }
-[[gnu::weak]] bool SYM_section_has_jumps() { return false; }
+// Jump expansion brings the jump lists; until then no section has one.
 [[gnu::weak]] void SYM_record_label_jump(symbol_record *sym) {
   error_internal(1, nullptr, "jump list without jump expansion for %s", sym->sym_name.c_str());
-}
-
-// What the object hand-over reads of a section; no section exists before the
-// section manager lands.
-namespace {
-void no_section_manager() { error_internal(1, nullptr, "section record read before the section manager exists"); }
-}  // namespace
-[[gnu::weak]] OFE::OF_SECTION *SYM_scn_object(section_record *) {
-  no_section_manager();
-  return nullptr;
-}
-[[gnu::weak]] symbol_record *SYM_scn_symbol(section_record *) {
-  no_section_manager();
-  return nullptr;
-}
-[[gnu::weak]] bool SYM_scn_has_code(section_record *) {
-  no_section_manager();
-  return false;
-}
-[[gnu::weak]] uint32_t SYM_scn_start(section_record *) {
-  no_section_manager();
-  return 0;
 }
 
 // ZQ-COFF objects can't be made before the COFF writer lands.

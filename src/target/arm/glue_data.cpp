@@ -39,10 +39,9 @@ bool low_word_first() {
 }
 
 void emit_word(instruct *ir, uint32_t word) {
-  IOR_STRUCT ior;
-  IOR_clear(&ior);
-  IOR_write(&ior, 32, 0, word);
-  IOR_dump(&ior, ir, 0);
+  // The relocation's listing mark may already be in the record.
+  IOR_write(&ir->ior, 32, 0, word);
+  IOR_dump(&ir->ior, ir, 0);
 }
 
 // Smallest L with 2^L >= n; 0 for n below 1.

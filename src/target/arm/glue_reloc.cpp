@@ -73,8 +73,8 @@ void TRG_reloc_data(instruct *ir, operand *op, unsigned int bits) {
     }
   }
   const OFE::OF_RELOC_TYPE *type = ofile->reloc_type(static_cast<unsigned>(type_id));
-  // The statement's bytes are built after the relocation, so there is no record to mark yet.
-  RELOC_emit(nullptr, &op->value, 0, type, static_cast<short>(type ? type->field_size() : 0), 0,
+  // The mark goes into the statement's record, which the value's bytes then join.
+  RELOC_emit(ir ? &ir->ior : nullptr, &op->value, 0, type, static_cast<short>(type ? type->field_size() : 0), 0,
              type ? type->field_offset() : 0);
 }
 

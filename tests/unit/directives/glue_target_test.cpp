@@ -66,7 +66,8 @@ TEST_F(GlueTest, FloatWordsFollowFloatUnitAndByteOrder) {
     start_pass2();
     SCN_queue(SCN_KIND_DATA, ".data");
     trg_fval value{{0x3FF00000u, 0x00000001u}};
-    TRG_emit_flt(nullptr, &value, r.size);
+    instruct ir{};
+    TRG_emit_flt(&ir, &value, r.size);
     finish();
     EXPECT_EQ(hex(bytes(".data")), r.bytes) << "unit " << r.float_unit << " big " << r.big << " size " << r.size;
   }
@@ -76,7 +77,8 @@ TEST_F(GlueTest, FloatOfAnotherSizeEndsTheRun) {
   start_pass2();
   SCN_queue(SCN_KIND_DATA, ".data");
   trg_fval value{{0, 0}};
-  EXPECT_EXIT(TRG_emit_flt(nullptr, &value, 2), ::testing::ExitedWithCode(1), "");
+  instruct ir{};
+  EXPECT_EXIT(TRG_emit_flt(&ir, &value, 2), ::testing::ExitedWithCode(1), "");
 }
 
 TEST_F(GlueTest, UsectAlignmentOperand) {
