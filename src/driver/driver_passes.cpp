@@ -139,7 +139,7 @@ void prepare_pass1() {
   TRG_initialize_pass1();
   if (!macro_file[0]) {
     char name[FN_BUFSIZE] = {};
-    fn_tmpnam(name, nullptr, "zqm");
+    fn_tmpnam(name, nullptr, nullptr);
     const size_t n = std::min(strlen(name), sizeof macro_file - 1);  // the name is at most 256 characters
     memcpy(macro_file, name, n);
     macro_file[n] = '\0';
