@@ -62,6 +62,8 @@ int SCN_align_flag(unsigned long bits) {
 
 void SCN_align(unsigned long bits, unsigned long fill) {
   if (!curseg || curseg->scn_object->unit_size() != 8) return;
+  // Byte alignment on a byte boundary is the common case of every data byte.
+  if (bits == 8 && pass2 && curseg->scn_field_bits % 8 == 0) return;
   SCN_core_align(bits, fill, SCN_trg_align);
 }
 
@@ -107,14 +109,13 @@ void SCN_space(unsigned long bits) {
   advance_counter(curseg->scn_field_bits + bits);
 }
 
-void SCN_insert_field(unsigned bits, const INT128 &value, instruct *ir, int mapping_kind, bool swap) {
-  if (!curseg) return;
-  TRG_add_mapping_sym(mapping_kind);
-  INT128 v = value;
-  if (bits < 128) v &= (xi_from_int(1) << static_cast<int>(bits)) - xi_from_int(1);
-  const bool zero = v.is_zero();
-  if (curseg->scn_field_bits == 32) write_out_accumulator();
+namespace {
 
+// Moves a field through the accumulator; bits_at(lo, n) gives bits [lo, lo + n)
+// of the value, so small fields need no 128-bit arithmetic.
+template <typename Bits>
+void insert_bits(unsigned bits, bool zero, Bits bits_at, instruct *ir, bool swap) {
+  if (curseg->scn_field_bits == 32) write_out_accumulator();
   const bool big = big_endian_fields(swap);
   unsigned placed = 0;  // bits taken from the low end (little-endian order)
   unsigned rest = bits;
@@ -127,19 +128,33 @@ void SCN_insert_field(unsigned bits, const INT128 &value, instruct *ir, int mapp
     }
     const unsigned take = rest < space ? rest : space;
     if (!zero) {
-      if (!big) {
-        curseg->scn_field_word |= bits_of(v, placed, take) << curseg->scn_field_bits;
-      } else if (rest >= space) {
-        curseg->scn_field_word |= bits_of(v, rest - space, space);
-      } else {
-        curseg->scn_field_word |= bits_of(v, 0, rest) << (space - rest);
-      }
+      if (!big)
+        curseg->scn_field_word |= bits_at(placed, take) << curseg->scn_field_bits;
+      else if (rest >= space)
+        curseg->scn_field_word |= bits_at(rest - space, space);
+      else
+        curseg->scn_field_word |= bits_at(0, rest) << (space - rest);
     }
     placed += take;
     curseg->scn_field_bits += take;
     rest -= take;
   }
   if (ir && curseg->scn_field_bits) list_word(ir, curseg->scn_field_word);
+}
+
+}  // namespace
+
+void SCN_insert_field(unsigned bits, const INT128 &value, instruct *ir, int mapping_kind, bool swap) {
+  if (!curseg) return;
+  TRG_add_mapping_sym(mapping_kind);
+  if (bits <= 32) {
+    const uint32_t v = value.to_u32() & low_mask(bits);
+    insert_bits(bits, v == 0, [v](unsigned lo, unsigned n) { return (v >> lo) & low_mask(n); }, ir, swap);
+    return;
+  }
+  INT128 v = value;
+  if (bits < 128) v &= (xi_from_int(1) << static_cast<int>(bits)) - xi_from_int(1);
+  insert_bits(bits, v.is_zero(), [&v](unsigned lo, unsigned n) { return bits_of(v, lo, n); }, ir, swap);
 }
 
 void SCN_insert_byte(unsigned byte, int mapping_kind) {

@@ -4,31 +4,17 @@
 #include "driver/driver.h"
 #include "support/fhm.h"
 
-namespace {
-constexpr int CTRL_Z = 26;
-}
-
 int mygetc(FHM_FILE *f) {
   FILE *fp = f ? f->fp() : nullptr;
-  if (!fp) return -1;
-  for (;;) {
-    int c = getc(fp);
-    if (c == EOF) return -1;
-    if (c == CTRL_Z) continue;
-    if (c == '\r') {
-      const int next = getc(fp);
-      if (next != '\n' && next != EOF) ungetc(next, fp);
-      return '\n';
-    }
-    return c;
-  }
+  return fp ? text_getc(fp) : -1;
 }
 
 char *myfgets(char *buf, short n, FHM_FILE *f) {
-  if (!buf || n <= 0) return nullptr;
+  FILE *fp = f ? f->fp() : nullptr;
+  if (!buf || n <= 0 || !fp) return nullptr;
   int i = 0;
   while (i < n - 1) {
-    const int c = mygetc(f);
+    const int c = text_getc(fp);
     if (c < 0) break;
     buf[i++] = static_cast<char>(c);
     if (c == '\n') break;
@@ -40,6 +26,6 @@ char *myfgets(char *buf, short n, FHM_FILE *f) {
 int myfputs(const char *s, FHM_FILE *f) {
   FILE *fp = f ? f->fp() : nullptr;
   if (!fp) return -1;
-  for (; s && *s; ++s) putc(*s, fp);
+  if (s) fputs(s, fp);
   return ferror(fp) ? -1 : 0;
 }

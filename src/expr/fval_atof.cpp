@@ -110,8 +110,21 @@ int read_hex(const char *p, simul_fval *r) {
 
 int read_decimal(const char *p, simul_fval *r) {
   if (!pow10_ready) f_rnd_prectbl();
+  // The first 19 significant digits are gathered as an integer: below 10^19
+  // the digit-by-digit arithmetic is exact, so only longer mantissas need it.
+  constexpr int EXACT_DIGITS = 19;
+  uint64_t head = 0;
+  int head_digits = 0;
   simul_fval acc = pos_zero;
   int ret = 0;
+  auto push = [&](int d) {
+    if (head_digits < EXACT_DIGITS) {
+      head = head * 10 + static_cast<uint64_t>(d);
+      if (++head_digits == EXACT_DIGITS) f_utof(head, &acc);
+    } else {
+      ret |= add_digit(&acc, &const_ten, d);
+    }
+  };
   long frac_digits = 0, pending_zeros = 0;
   bool point = false, leading = true;
   for (;; ++p) {
@@ -131,12 +144,13 @@ int read_decimal(const char *p, simul_fval *r) {
       continue;
     }
     for (; pending_zeros > 0; --pending_zeros) {
-      ret |= add_digit(&acc, &const_ten, 0);
+      push(0);
       ++frac_digits;
     }
-    ret |= add_digit(&acc, &const_ten, d);
+    push(d);
     if (point) ++frac_digits;
   }
+  if (head_digits > 0 && head_digits < EXACT_DIGITS) f_utof(head, &acc);
   long exp10 = 0;
   if (*p == 'e' || *p == 'E') {
     ++p;

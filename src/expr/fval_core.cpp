@@ -348,22 +348,25 @@ int f_div(const simul_fval *x, const simul_fval *y, simul_fval *r) {
 
   simul_fval a = canonical(x), b = canonical(y);
   if (is_special(&a) || is_special(&b)) return f_div(&a, &b, r);
-  // Quotient of the mantissas scaled by 2^112: 7 more words than the dividend.
-  constexpr int NUM = 13, DEN = NWORDS + 1;
-  uint16_t num[NUM] = {}, quot[NUM] = {}, rem[DEN] = {}, den[DEN] = {};
-  std::memcpy(num, a.mant, sizeof a.mant);
-  std::memcpy(den + 1, b.mant, sizeof b.mant);
-  for (int bit = 0; bit < NUM * 16; ++bit) {
-    mw_shl(rem, DEN, 1);
-    rem[DEN - 1] |= (num[bit / 16] >> (15 - bit % 16)) & 1;
-    if (mw_cmp(rem, den, DEN) >= 0) {
-      mw_sub(rem, den, DEN);
-      quot[bit / 16] |= static_cast<uint16_t>(0x8000 >> (bit % 16));
-    }
+  // Quotient of the mantissas scaled by 2^112, kept to its low 128 bits: the
+  // integer part first, then the fraction 32 bits at a time (the remainder
+  // stays below the 96-bit divisor, so a step never overflows).
+  using u128 = unsigned __int128;
+  auto mant_value = [](const uint16_t *m) {
+    u128 v = 0;
+    for (int i = 0; i < NWORDS; ++i) v = (v << 16) | m[i];
+    return v;
+  };
+  const u128 num = mant_value(a.mant), den = mant_value(b.mant);
+  u128 q = num / den, rem = num % den;
+  for (int step : {32, 32, 32, 16}) {
+    const u128 part = rem << step;
+    q = (q << step) | (part / den);
+    rem = part % den;
   }
   constexpr int N = 8;
   uint16_t w[N];
-  std::memcpy(w, quot + NUM - N, sizeof w);
+  for (int i = N - 1; i >= 0; --i, q >>= 16) w[i] = static_cast<uint16_t>(q);
   return finish(w, a.exponent - b.exponent, N, sign, sign, r);
 }
 

@@ -3,6 +3,7 @@
 // instructions on the path of every expression.
 #include "expr/int128.h"
 
+#include <bit>
 #include <cstring>
 
 bool xi_error = false;
@@ -13,16 +14,24 @@ struct u128 {
   uint64_t hi, lo;
 };
 
-u128 load(const uint8_t *a) {
-  u128 v{0, 0};
-  for (int i = 0; i < 8; ++i) v.hi = (v.hi << 8) | a[i];
-  for (int i = 8; i < 16; ++i) v.lo = (v.lo << 8) | a[i];
+// The halves are big-endian in memory; the host order is fixed at compile time.
+uint64_t load_half(const uint8_t *a) {
+  uint64_t v;
+  std::memcpy(&v, a, 8);
+  if constexpr (std::endian::native == std::endian::little) v = __builtin_bswap64(v);
   return v;
 }
 
+void store_half(uint64_t v, uint8_t *r) {
+  if constexpr (std::endian::native == std::endian::little) v = __builtin_bswap64(v);
+  std::memcpy(r, &v, 8);
+}
+
+u128 load(const uint8_t *a) { return {load_half(a), load_half(a + 8)}; }
+
 void store(u128 v, uint8_t *r) {
-  for (int i = 7; i >= 0; --i, v.hi >>= 8) r[i] = static_cast<uint8_t>(v.hi);
-  for (int i = 15; i >= 8; --i, v.lo >>= 8) r[i] = static_cast<uint8_t>(v.lo);
+  store_half(v.hi, r);
+  store_half(v.lo, r + 8);
 }
 
 bool negative(u128 v) { return (v.hi >> 63) != 0; }
@@ -140,6 +149,12 @@ int XI_mpy(const uint8_t *a, const uint8_t *b, uint8_t *r) {
   bool differ = negative(x) != negative(y);
   if (negative(x)) x = neg(x);
   if (negative(y)) y = neg(y);
+  if ((x.hi | y.hi) == 0) {  // the common case: both fit in 64 bits
+    const unsigned __int128 p = static_cast<unsigned __int128>(x.lo) * y.lo;
+    const u128 prod{static_cast<uint64_t>(p >> 64), static_cast<uint64_t>(p)};
+    store(differ ? neg(prod) : prod, r);
+    return 0;
+  }
   // 32-bit limbs, least significant first; an 8-limb product.
   uint32_t xl[4] = {uint32_t(x.lo), uint32_t(x.lo >> 32), uint32_t(x.hi), uint32_t(x.hi >> 32)};
   uint32_t yl[4] = {uint32_t(y.lo), uint32_t(y.lo >> 32), uint32_t(y.hi), uint32_t(y.hi >> 32)};
@@ -177,19 +192,23 @@ int XI_mod(const uint8_t *a, const uint8_t *b, uint8_t *r) {
 }
 
 void XI_and(const uint8_t *a, const uint8_t *b, uint8_t *r) {
-  for (int i = 0; i < 16; ++i) r[i] = a[i] & b[i];
+  const u128 x = load(a), y = load(b);
+  store({x.hi & y.hi, x.lo & y.lo}, r);
 }
 
 void XI_or(const uint8_t *a, const uint8_t *b, uint8_t *r) {
-  for (int i = 0; i < 16; ++i) r[i] = a[i] | b[i];
+  const u128 x = load(a), y = load(b);
+  store({x.hi | y.hi, x.lo | y.lo}, r);
 }
 
 void XI_xor(const uint8_t *a, const uint8_t *b, uint8_t *r) {
-  for (int i = 0; i < 16; ++i) r[i] = a[i] ^ b[i];
+  const u128 x = load(a), y = load(b);
+  store({x.hi ^ y.hi, x.lo ^ y.lo}, r);
 }
 
 void XI_notb(const uint8_t *a, uint8_t *r) {
-  for (int i = 0; i < 16; ++i) r[i] = static_cast<uint8_t>(~a[i]);
+  const u128 x = load(a);
+  store({~x.hi, ~x.lo}, r);
 }
 
 int XI_shl(const uint8_t *a, int n, uint8_t *r) {

@@ -111,6 +111,7 @@ void LST_mvlnbuf(LST_ln_opt opt) {
 }
 
 void LST_object(linebuf *line, unsigned int address, unsigned char *bytes, char mark, unsigned char count) {
+  if (!ASSY_LST) return;  // only the listing shows object fields
   if (count > 4) count = 4;
   uint32_t value = 0;
   if (bytes)

@@ -1,4 +1,5 @@
 // The character layer: the reading position in the current line.
+#include <array>
 #include <cctype>
 #include <cstring>
 
@@ -15,14 +16,22 @@ char ch = ' ';
 uint32_t chtyp = CH_EOL;
 int32_t chpos = -1;
 
-uint32_t LEX_classify(char c) {
-  const auto u = static_cast<unsigned char>(c);
-  if (u & 0x80) return CH_OTHER;
-  if (std::isspace(u)) return CH_SPACE;
-  if (std::isalpha(u) || c == '_' || c == '$') return CH_ALPHA;
-  if (std::isdigit(u)) return CH_DIGIT;
-  return CH_OTHER;
-}
+namespace {
+// The classes in the "C" locale, looked up once per character read.
+constexpr auto char_classes = [] {
+  std::array<uint8_t, 256> t{};
+  for (int c = 0; c < 256; ++c) {
+    uint8_t k = CH_OTHER;
+    if (c == ' ' || (c >= '\t' && c <= '\r')) k = CH_SPACE;
+    else if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '$') k = CH_ALPHA;
+    else if (c >= '0' && c <= '9') k = CH_DIGIT;
+    t[static_cast<size_t>(c)] = k;
+  }
+  return t;
+}();
+}  // namespace
+
+uint32_t LEX_classify(char c) { return char_classes[static_cast<unsigned char>(c)]; }
 
 char LEX_peek(int32_t pos) {
   if (!inbuf || pos < 0 || pos >= static_cast<int32_t>(inbuf_len)) return 0;
@@ -49,7 +58,7 @@ void getch() {
     return;
   }
   ch = inbuf[chpos];
-  chtyp = LEX_classify(ch);
+  chtyp = char_classes[static_cast<unsigned char>(ch)];
 }
 
 void LEX_drop_line() {

@@ -21,8 +21,9 @@ std::string &number_buffer() {
   return buf;
 }
 
-bool is_xdigit(char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; }
-bool is_digit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+bool is_xdigit(char c) { return is_digit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
+char to_upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 bool has_letter(const std::string &s) {
   for (char c : s)
     if (!is_digit(c)) return true;
@@ -32,6 +33,11 @@ int digit_value(char c) { return is_digit(c) ? c - '0' : c - 'A' + 10; }
 
 // Digits of a power-of-two radix are shifted in; what leaves the top is lost.
 INT128 shift_in(const std::string &digits, int bits) {
+  if (digits.size() * static_cast<size_t>(bits) <= 64) {  // nothing can leave the top
+    uint64_t u = 0;
+    for (char c : digits) u = (u << bits) | static_cast<uint64_t>(digit_value(c));
+    return xi_from_u64(u);
+  }
   INT128 v{};
   for (char c : digits) {
     XI_shl(v.b, bits, v.b);
@@ -42,6 +48,11 @@ INT128 shift_in(const std::string &digits, int bits) {
 }
 
 INT128 decimal(const std::string &digits) {
+  if (digits.size() <= 19) {  // below 10^19: exact in 64 bits
+    uint64_t u = 0;
+    for (char c : digits) u = u * 10 + static_cast<uint64_t>(c - '0');
+    return xi_from_u64(u);
+  }
   INT128 v{};
   for (char c : digits) {
     XI_mpy(v.b, xi_ten, v.b);
@@ -50,7 +61,7 @@ INT128 decimal(const std::string &digits) {
   return v;
 }
 
-bool upper_is(char c, char letter) { return std::toupper(static_cast<unsigned char>(c)) == letter; }
+bool upper_is(char c, char letter) { return to_upper(c) == letter; }
 
 // U, L, UL, LL, LU, ULL and LLU; anything else stays for the next token.
 void integer_suffix(token *tk) {
@@ -129,7 +140,7 @@ void LEX_const(token *tk) {
   run.clear();
   const int32_t start = chpos;
   while (chtyp != CH_EOL && is_xdigit(ch)) {
-    run += static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+    run += to_upper(ch);
     getch();
   }
   tk->kind = TK_ICON;
@@ -142,7 +153,7 @@ void LEX_const(token *tk) {
   }
 
   INT128 v{};
-  const char stop = chtyp == CH_EOL ? ' ' : static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+  const char stop = chtyp == CH_EOL ? ' ' : to_upper(ch);
   if (stop == 'H') {
     getch();
     v = shift_in(run, 4);
@@ -153,7 +164,7 @@ void LEX_const(token *tk) {
     getch();
     std::string hex;
     while (chtyp != CH_EOL && is_xdigit(ch)) {
-      hex += static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+      hex += to_upper(ch);
       getch();
     }
     if (run != "0") error(curline, "E0003", "Invalid hex constant specified");

@@ -4,6 +4,7 @@
 
 #include "driver/driver.h"
 #include "source/copy.h"
+#include "support/fhm.h"
 #include "source/lexer.h"
 #include "source/subsym.h"
 #include "support/memory.h"
@@ -13,12 +14,14 @@ constexpr size_t LINE_STEP = 400;
 }
 
 char *getline(FHM_FILE *f) {
-  if (!f) return nullptr;
+  // The handle cannot be evicted while one line is read.
+  FILE *fp = f ? f->fp() : nullptr;
+  if (!fp) return nullptr;
   size_t cap = LINE_STEP;
   size_t n = 0;
   auto *buf = static_cast<char *>(safemalloc(cap));
   bool any = false;
-  for (int c; (c = mygetc(f)) >= 0;) {
+  for (int c; (c = text_getc(fp)) >= 0;) {
     any = true;
     if (c == '\n') break;
     if (n + 2 >= cap) {

@@ -1,5 +1,7 @@
 // Pending labels, their definition in both passes, and local-label scopes.
 #include "symbols_fixture.h"
+#include "driver/driver.h"
+#include "support/fhm.h"
 
 #include "directives/sections.h"
 
@@ -181,6 +183,7 @@ TEST_F(Labels, KeywordAsLabel) {
 }
 
 TEST_F(Labels, LabelAloneOnItsLineShowsItsAddress) {
+  ASSY_LST = fhm_open("/dev/null", "w");  // object fields are kept for a listing only
   curseg = text_scn;
   test_line alone(1), with_statement(2);
   queue({&alone, &with_statement});
@@ -201,6 +204,8 @@ TEST_F(Labels, LabelAloneOnItsLineShowsItsAddress) {
   EXPECT_EQ(alone.flags & LNF_OBJECT, 0);
   EXPECT_EQ(with_statement.object, nullptr);
   EXPECT_NE(with_statement.flags & LNF_OBJECT, 0);
+  fhm_close(ASSY_LST);
+  ASSY_LST = nullptr;
 }
 
 TEST_F(Labels, ReleasedLineIsNotTouched) {

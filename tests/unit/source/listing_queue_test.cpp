@@ -1,5 +1,7 @@
 // The queue of lines in flight and what is attached to a line.
 #include "lexer_fixture.h"
+#include "driver/driver.h"
+#include "support/fhm.h"
 
 using namespace lex_test;
 
@@ -48,6 +50,9 @@ TEST_F(LexerTest, MessagesAndObjectBytes) {
 
   unsigned char word[4] = {0xE1, 0xA0, 0x00, 0x01};
   LST_object(line, 0x100, word, 0, 4);
+  EXPECT_EQ(line->object, nullptr);  // no listing, no object fields
+  ASSY_LST = fhm_open("/dev/null", "w");
+  LST_object(line, 0x100, word, 0, 4);
   LST_object(line, 0x104, nullptr, '!', 2);
   unsigned char two[2] = {0x12, 0x34};
   LST_object(line, 0x108, two, 'D', 2);
@@ -61,6 +66,8 @@ TEST_F(LexerTest, MessagesAndObjectBytes) {
   EXPECT_EQ(line->object->next->mark, '!');
   ASSERT_NE(line->object->next->next, nullptr);
   EXPECT_EQ(line->object->next->next->value, 0x1234u);
+  fhm_close(ASSY_LST);
+  ASSY_LST = nullptr;
 }
 
 TEST_F(LexerTest, ExpandRewritesTheLineForTheLexer) {
