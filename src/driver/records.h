@@ -57,7 +57,7 @@ struct token {
 struct linebuf {
   uint16_t flags;          // listing control bits; 64: a label was saved from this line
   char copy_letter;        // blank for the main source
-  char *file;
+  const char *file;        // shared by the lines of one file; lives to the end of the run
   uint32_t line_number;
   obj_flds *object;
   uint32_t length;

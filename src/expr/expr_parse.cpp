@@ -1,5 +1,7 @@
 // Parsing by the precedence table: binary levels 0 to 7, unary operators at
 // level 8, terms at level 9.
+#include <array>
+
 #include "driver/diag.h"
 #include "expr/expr.h"
 #include "expr/expr_internal.h"
@@ -71,13 +73,36 @@ node *parse_unary() {
   return E_term();
 }
 
-node *parse_level(int level) {
-  node *left = level == 7 ? parse_unary() : parse_level(level + 1);
+// The binary level of each token kind, or -1: E_opfound for levels 0 to 7
+// without a scan of the table per level.
+constexpr int NOT_BINARY = -1;
+constexpr size_t OPERATOR_KINDS = 256;  // every operator token kind is below
+const std::array<int8_t, OPERATOR_KINDS> &binary_levels() {
+  static const auto table = [] {
+    std::array<int8_t, OPERATOR_KINDS> t;
+    t.fill(NOT_BINARY);
+    for (int level = 7; level >= 0; --level)
+      for (const uint16_t *tk = trg_prec_tbl[level]; *tk; ++tk)
+        if (*tk < OPERATOR_KINDS) t[*tk] = static_cast<int8_t>(level);
+    return t;
+  }();
+  return table;
+}
+
+int binary_level() {
+  if (!curtk || curtk->kind >= OPERATOR_KINDS) return NOT_BINARY;
+  return binary_levels()[curtk->kind];
+}
+
+// Precedence climbing over levels min_level to 7: the same left-associative
+// trees as one recursive call per level, with one lookup per operator.
+node *parse_level(int min_level) {
+  node *left = parse_unary();
   if (!left) {
-    if (level == 0) E_parse_error("E0200", "Bad term in expression");
+    if (min_level == 0) E_parse_error("E0200", "Bad term in expression");
     return nullptr;
   }
-  while (E_opfound(level)) {
+  for (int level; (level = binary_level()) >= min_level;) {
     expr_opcode op;
     if (!map_operator(curtk->kind, &op)) return nullptr;
     next_token();

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <unordered_set>
 
 #include "driver/diag.h"
 #include "driver/driver.h"
@@ -34,6 +35,13 @@ uint16_t new_line_flags() {
   return 31;
 }
 
+const char *shared_file_name(const char *name) {
+  static std::unordered_set<std::string> names;
+  static const char *last = nullptr;
+  if (!last || std::strcmp(last, name) != 0) last = names.emplace(name).first->c_str();
+  return last;
+}
+
 void free_line(linebuf *line) {
   for (pending_label *p = LBL_current; p; p = p->next)
     if (p->line == line) p->line = nullptr;
@@ -46,7 +54,6 @@ void free_line(linebuf *line) {
   if (line->text != line->source_text) std::free(line->text);
   std::free(line->source_text);
   std::free(line->expanded_text);
-  std::free(line->file);
   for (char *m : line->messages) std::free(m);
   delete line;
 }
@@ -63,7 +70,7 @@ void LST_getln() {
   auto *line = new linebuf{};
   line->flags = new_line_flags();
   line->copy_letter = f_lchar;
-  line->file = safestrdup(f_name ? f_name : "");
+  line->file = shared_file_name(f_name ? f_name : "");
   line->line_number = static_cast<uint32_t>(f_lnum);
   line->length = inbuf_len;
   line->text = text;

@@ -16,9 +16,8 @@ char ch = ' ';
 uint32_t chtyp = CH_EOL;
 int32_t chpos = -1;
 
-namespace {
 // The classes in the "C" locale, looked up once per character read.
-constexpr auto char_classes = [] {
+constexpr std::array<uint8_t, 256> LEX_char_class = [] {
   std::array<uint8_t, 256> t{};
   for (int c = 0; c < 256; ++c) {
     uint8_t k = CH_OTHER;
@@ -29,9 +28,8 @@ constexpr auto char_classes = [] {
   }
   return t;
 }();
-}  // namespace
 
-uint32_t LEX_classify(char c) { return char_classes[static_cast<unsigned char>(c)]; }
+uint32_t LEX_classify(char c) { return LEX_char_class[static_cast<unsigned char>(c)]; }
 
 char LEX_peek(int32_t pos) {
   if (!inbuf || pos < 0 || pos >= static_cast<int32_t>(inbuf_len)) return 0;
@@ -47,18 +45,6 @@ void LEX_reset() {
 void LEX_inbuf_update(char *text, short length) {
   inbuf = text;
   inbuf_len = length < 0 ? 0 : static_cast<uint32_t>(length);
-}
-
-void getch() {
-  const auto len = static_cast<int32_t>(inbuf ? inbuf_len : 0);
-  if (chpos < len) ++chpos;
-  if (chpos >= len) {
-    ch = ' ';
-    chtyp = CH_EOL;
-    return;
-  }
-  ch = inbuf[chpos];
-  chtyp = char_classes[static_cast<unsigned char>(ch)];
 }
 
 void LEX_drop_line() {

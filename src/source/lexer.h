@@ -4,6 +4,7 @@
 // Ownership: token strings (TK_IDENT, TK_SCON, TK_OPCODE_REST) and the
 // simul_fval of a TK_FCON are allocated with malloc and released with free;
 // LEX_droptkn releases a token together with them.
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -51,7 +52,21 @@ void LEX_inbuf_update(char *text, short length);
 
 // ---- Character layer --------------------------------------------------------------
 
-void getch();            // next character, no comment rules
+// Class of each character, indexed by its unsigned value.
+extern const std::array<uint8_t, 256> LEX_char_class;
+
+// Next character, no comment rules. Inline: the reader calls it per character.
+inline void getch() {
+  const auto len = static_cast<int32_t>(inbuf ? inbuf_len : 0);
+  if (chpos < len) ++chpos;
+  if (chpos >= len) {
+    ch = ' ';
+    chtyp = CH_EOL;
+    return;
+  }
+  ch = inbuf[chpos];
+  chtyp = LEX_char_class[static_cast<unsigned char>(ch)];
+}
 void nextch();           // next character; ';' and a first-column '*' end the line
 void ungetch();          // one character back
 void skip_to_nextch();   // over white space, with the rules of nextch

@@ -15,8 +15,21 @@ token *availtkn = nullptr;
 linebuf *curline = nullptr;
 uint32_t LEX_live_tokens = 0;
 
+namespace {
+// Released tokens, kept for reuse: a statement makes and drops several.
+token *spare_tokens = nullptr;
+
+token *alloc_token() {
+  token *tk = spare_tokens;
+  if (!tk) return new token{};
+  spare_tokens = tk->next;
+  *tk = token{};
+  return tk;
+}
+}  // namespace
+
 token *LEX_newtkn(uint16_t kind, int32_t column) {
-  auto *tk = new token{};
+  token *tk = alloc_token();
   tk->kind = kind;
   tk->column = static_cast<int16_t>(column);
   tk->line = curline;
@@ -199,13 +212,15 @@ void LEX_droptkn(token *tk) {
     default:
       break;
   }
-  delete tk;
+  tk->next = spare_tokens;
+  spare_tokens = tk;
   --LEX_live_tokens;
 }
 
 token *copy_curtk_for_unget() {
   if (!curtk) return nullptr;
-  auto *tk = new token(*curtk);
+  token *tk = alloc_token();
+  *tk = *curtk;
   tk->next = nullptr;
   ++LEX_live_tokens;
   switch (tk->kind) {
