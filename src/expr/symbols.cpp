@@ -2,6 +2,7 @@
 // reset between the passes and the report of undefined symbols.
 #include "expr/symbols.h"
 
+#include <array>
 #include <cstdio>
 #include <cstring>
 #include <strings.h>
@@ -30,6 +31,8 @@ namespace {
 struct normal_name {
   std::string text;
   bool escaped;
+  uint32_t full_hash = 0;
+  int bucket() const { return static_cast<int>(full_hash % NAME_BUCKETS); }
 };
 
 normal_name normalise(std::string_view given) {
@@ -39,16 +42,31 @@ normal_name normalise(std::string_view given) {
   n.escaped = given.size() >= 2 && given[0] == '|' && given[1] == '|';
   if (n.escaped) std::erase(n.text, '|');
   if (opt_on(OPT_SYMS_IGNORE_CASE)) strupper(n.text);
+  n.full_hash = hash_full(n.text);
   return n;
 }
 
 // The bucket walk shared by SYM_find and SYM_query. `after` receives the
 // last built-in record of equal name that an escaped user search passed.
-symbol_record *bucket_match(const normal_name &n, int h, bool builtin, symbol_record **after) {
-  for (symbol_record *s = names[h]; s; s = s->sym_next) {
-    if (s->sym_name != n.text) continue;
+// Plain look-ups (not escaped, not built-in) find the first record of the
+// name in its chain. Chains grow long in large sources, so the last answer
+// per hash slot is kept; inserting or freeing records clears the slots.
+constexpr size_t RECENT_SLOTS = 1 << 14;
+std::array<symbol_record *, RECENT_SLOTS> recent{};
+
+symbol_record *&recent_slot(uint32_t full_hash) { return recent[full_hash % RECENT_SLOTS]; }
+
+symbol_record *bucket_match(const normal_name &n, bool builtin, symbol_record **after) {
+  const bool plain = !n.escaped && !builtin;
+  if (plain) {
+    symbol_record *r = recent_slot(n.full_hash);
+    if (r && r->sym_hash == n.full_hash && r->sym_name == n.text) return r;
+  }
+  for (symbol_record *s = names[n.bucket()]; s; s = s->sym_next) {
+    if (s->sym_hash != n.full_hash || s->sym_name != n.text) continue;
     bool is_builtin = (s->sym_flags & SYMF_BUILTIN) != 0;
     if (!n.escaped) {
+      if (plain) recent_slot(n.full_hash) = s;
       if (!builtin || is_builtin) return s;
     } else if (builtin == is_builtin) {
       return s;
@@ -87,13 +105,14 @@ void free_symbol(symbol_record *s) {
 
 symbol_record *SYM_find(std::string_view name, bool builtin) {
   normal_name n = normalise(name);
-  int h = hash(n.text);
   symbol_record *after = nullptr;
-  symbol_record *s = bucket_match(n, h, builtin, &after);
+  symbol_record *s = bucket_match(n, builtin, &after);
   if (!s) {
     s = new_symbol(n.text, builtin);
+    s->sym_hash = n.full_hash;
+    recent_slot(n.full_hash) = nullptr;  // the first record of the name may change
     // Behind the built-in record, so plain look-ups keep finding it first.
-    symbol_record **link = after ? &after->sym_next : &names[h];
+    symbol_record **link = after ? &after->sym_next : &names[n.bucket()];
     s->sym_next = *link;
     *link = s;
   }
@@ -106,7 +125,7 @@ symbol_record *SYM_find(std::string_view name, bool builtin) {
 
 symbol_record *SYM_query(std::string_view name) {
   normal_name n = normalise(name);
-  return bucket_match(n, hash(n.text), false, nullptr);
+  return bucket_match(n, false, nullptr);
 }
 
 symbol_record *SYM_query(const char *name) {
@@ -230,6 +249,7 @@ bool is_imported_undef(const symbol_record *sym) {
 }
 
 void SYM_init() {
+  recent.fill(nullptr);
   for (int h = 0; h <= NAME_BUCKETS; ++h) {
     while (symbol_record *s = names[h]) {
       names[h] = s->sym_next;

@@ -69,6 +69,7 @@ struct xref_record {
 
 struct symbol_record {
   symbol_record *sym_next;
+  uint32_t sym_hash;    // hash_full of sym_name while in the name table: beside the link for the walk
   section_record *sym_section;
   xref_record *sym_xref;
   membrec *sym_members;

@@ -11,7 +11,9 @@
 
 ophashtbl *ophash[HASH_SIZE + 1] = {};
 
-int hash(const std::string &s) {
+int hash(const std::string &s) { return static_cast<int>(hash_full(s) % HASH_SIZE); }
+
+uint32_t hash_full(const std::string &s) {
   const bool fold = opt_on(OPT_SYMS_IGNORE_CASE);
   uint32_t h = 0xFFFFFFFFu;
   for (char c : s) {
@@ -19,7 +21,7 @@ int hash(const std::string &s) {
     h = (h << 7) | (h >> 25);
     h ^= static_cast<uint32_t>(static_cast<int32_t>(static_cast<signed char>(c)));
   }
-  return static_cast<int>(h % HASH_SIZE);
+  return h;
 }
 
 ophashtbl *entophash(ophashtbl *entry) {

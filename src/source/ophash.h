@@ -33,6 +33,8 @@ extern ophashtbl *ophash[HASH_SIZE + 1];
 
 // The one hash of the system (also for names and tagnames): 0..5002.
 int hash(const std::string &s);
+// The same hash before its reduction to a bucket: a cheap first test of names.
+uint32_t hash_full(const std::string &s);
 
 // Adds at the head of its bucket, so the youngest entry of a name wins.
 ophashtbl *entophash(ophashtbl *entry);
