@@ -212,7 +212,8 @@ void GD_elfsym(instruct *ir) {
     error(ir->line, "E0004", "SYM_PRESERVE and SYM_UPDATE cannot be specified together in .elfsym");
     update = nullptr;
   }
-  if (!size && !preserve && !update) return;
+  // Pass 1 only needs the size; preserve and update wait for pass 2.
+  if (pass1 ? !size : !size && !preserve && !update) return;
 
   symbol_record *sym = pass1 ? SYM_find(name) : SYM_query(name);
   if (!sym) {

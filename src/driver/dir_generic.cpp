@@ -49,6 +49,12 @@ void DP_filename(instruct *ir) {
 template <unsigned N>
 void DP_icons(instruct *ir) {
   const dir_parse_state_t st{DPS_EXPR | DPS_STRING, N};
+  // No operand at all: the directive does nothing, and a label stays pending.
+  operand *first = DIR_get_oprnd({st.flags | DPS_OPTIONAL, N});
+  if (!first && LEX_eol()) return;
+  if (first) IR_add_oprnd(ir, 0, first);
+  else error(curline, "E0005", "Operand missing");
+  DP_comma();
   // Each read moves past the comma it starts at, so the loop always advances.
   while (curtk && curtk->kind != TK_EOL) {
     IR_add_oprnd(ir, 0, DIR_get_oprnd(st));
