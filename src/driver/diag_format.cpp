@@ -26,7 +26,7 @@ std::string DIAG_header(const char *file, int severity, unsigned line_number, bo
   h += DIAG_label(severity);
   if (has_line) {
     h += " at line ";
-    h += line_number >= 65535 ? std::string(">65534") : std::to_string(line_number);
+    h += line_number == 65535 ? std::string(">65534") : std::to_string(line_number);
     h += ':';
   } else if (severity == 3 || severity == 4) {
     h += ':';
@@ -102,8 +102,19 @@ std::string DIAG_caret_line(const char *text, int column) {
     copy += (std::isprint(c) && !std::isspace(c)) ? ' ' : static_cast<char>(c);
   }
   if (column >= 0) {
-    if (static_cast<size_t>(column) >= copy.size()) copy.resize(static_cast<size_t>(column) + 1, ' ');
-    copy[static_cast<size_t>(column)] = '^';
+    // Positions are counted with a run of tabs as one.
+    size_t at = 0;
+    int pos = 0;
+    for (; at < copy.size(); ++at) {
+      if (copy[at] == '\t' && at > 0 && copy[at - 1] == '\t') continue;
+      if (pos == column) break;
+      ++pos;
+    }
+    if (at >= copy.size()) {
+      at += static_cast<size_t>(column - pos);
+      copy.resize(at + 1, ' ');
+    }
+    copy[at] = '^';
   }
   copy += '\n';
   return copy;

@@ -171,6 +171,8 @@ void get_files() {
     }
     ++count;
     if (count <= 3) names.emplace_back(word);
+    // Messages of the command line already name the source as it was typed.
+    if (count == 1) store_name(assy_src_name, word);
     if (count == 3) global_opts->setopt(OPT_ASM_LISTING);
   }
   if (count > 3) {

@@ -46,4 +46,5 @@ TEST(DiagFormat, WrapsAtBlanksAndBreaksLongWords) {
 TEST(DiagFormat, CaretLineKeepsTabs) {
   EXPECT_EQ(DIAG_caret_line("\tmov r0, #1\n", 5), "\t    ^     \n");
   EXPECT_EQ(DIAG_caret_line("ab", 4), "    ^\n");
+  EXPECT_EQ(DIAG_caret_line("\t\t.x 1 2", 5), "\t\t    ^ \n");  // a run of tabs is one position
 }
