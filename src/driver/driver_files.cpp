@@ -1,9 +1,12 @@
 // The command line: its words, the file names of the run, and the files opened
 // before pass 1.
+#include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "driver/diag.h"
@@ -49,6 +52,20 @@ void trim(std::string &s) {
   s.erase(0, first);
 }
 
+// Whether the raw bytes hold the word, or a Ctrl-Z that the reader would
+// drop from inside it: only then is the piece-by-piece scan worth its time.
+bool may_hold(FILE *fp, std::string_view word) {
+  std::vector<char> buf(size_t{1} << 16);
+  size_t kept = 0;
+  for (size_t n; (n = fread(buf.data() + kept, 1, buf.size() - kept, fp)) > 0;) {
+    const std::string_view block(buf.data(), kept + n);
+    if (block.find(word) != std::string_view::npos || block.find('\x1a') != std::string_view::npos) return true;
+    kept = std::min(block.size(), word.size() - 1);
+    std::memmove(buf.data(), buf.data() + block.size() - kept, kept);
+  }
+  return false;
+}
+
 // A source that another tool chain produced is refused before anything else.
 void scan_for_foreign_source(const char *src) {
   FHM_FILE *f = fhm_open(src, "rb");
@@ -56,6 +73,13 @@ void scan_for_foreign_source(const char *src) {
     const int err = errno;
     error_user(nullptr, "E1000", "Cannot open source file %s: %s", src, strerror(err));
     exit(1);
+  }
+  FILE *fp = f->fp();
+  const bool scan = !fp || may_hold(fp, ".compiler_opts");
+  if (fp) std::rewind(fp);
+  if (!scan) {
+    fhm_close(f);
+    return;
   }
   char piece[401];
   while (myfgets(piece, sizeof piece, f)) {

@@ -12,29 +12,6 @@ struct int_case {
   int64_t value;
 };
 
-TEST_F(ExprTest, IntegerOperatorsAndPrecedence) {
-  const int_case cases[] = {
-      {"1 + 2 * 3", 7},       {"1 << 2 + 1", 8},      {"1 | 2 ^ 3", 1},      {"6 & 3 | 8", 10},
-      {"8 / 2 / 2", 2},       {"1 - 2 - 3", -4},      {"(1 + 2) * 3", 9},    {"2 * 3 % 4", 2},
-      {"-7 / 2", -3},         {"-5 % 3", -2},         {"7 % -3", 1},         {"~0", -1},
-      {"!0", 1},              {"!5", 0},              {"- -4", 4},           {"+3", 3},
-      {"-8 >> 1", -4},        {"1 << 4 >> 2", 4},     {"3 == 3", 1},         {"3 = 4", 0},
-      {"2 != 3", 1},          {"2 <> 2", 0},          {"2 < 3", 1},          {"3 <= 3", 1},
-      {"2 > 3", 0},           {"-1 >= 0", 0},         {"1 + 2 == 3", 1},     {"1 < 2 == 1", 1},
-      {"'A'", 65},            {"'AB'", 0x4241},       {"\"abc\"", 0},        {"0x10 * 10h", 256},
-      {"(((7)))", 7},         {"1 << 2 < 3", 0},      {"~1 & 0xF", 14},      {"5 ^ 1 == 1", 4},
-  };
-  for (const int_case &c : cases) {
-    value_record *v = eval(c.text, EXPR_MODE_RELOC, 64);
-    EXPECT_EQ(v->v_type, VT_ICON) << c.text;
-    EXPECT_EQ(v->v_val, xi_from_i64(c.value)) << c.text << " gave " << v->v_val.to_string();
-    EXPECT_EQ(v->v_known, 1) << c.text;
-    EXPECT_EQ(out, "") << c.text;
-    EXPECT_EQ(stop_kind, TK_EOL) << c.text;
-    E_freeval(v);
-  }
-}
-
 TEST_F(ExprTest, ConstantsKeepTheirKind) {
   value_record *v = eval("'A'");
   EXPECT_EQ(v->v_flags, VF_CHAR);
@@ -133,32 +110,16 @@ TEST_F(ExprTest, MessagesOfBadExpressions) {
   SYM_define(r0, &reg);
   const bad_case cases[] = {
       {"", "E0200", "Bad term in expression", EXPR_MODE_RELOC},
-      {")", "E0200", "Bad term in expression", EXPR_MODE_RELOC},
-      {"1 +", "E0200", "Binary operator can't be applied", EXPR_MODE_RELOC},
       {"2 * , 3", "E0200", "Binary operator can't be applied", EXPR_MODE_RELOC},
-      {"-", "E0200", "Unary operator can't be applied", EXPR_MODE_RELOC},
-      {"(1 + 2", "E0000", "No matching right parenthesis", EXPR_MODE_RELOC},
       {"((1)", "E0000", "No matching right parenthesis", EXPR_MODE_RELOC},
-      {"1.5 % 2", "E0201", "Invalid floating-point operation", EXPR_MODE_ANY},
       {"1.5 << 1", "E0201", "Invalid floating-point operation", EXPR_MODE_ANY},
-      {"~1.5", "E0009", "Cannot apply bitwise NOT to floats", EXPR_MODE_ANY},
       {"1.5 + lab1", "E0201", "Absolute operands required for FP operations", EXPR_MODE_ANY},
-      {"1.5", "E0201", "Illegal floating-point expression", EXPR_MODE_RELOC},
       {"r0", "E0201", "Floating-point expression required", EXPR_MODE_FLOAT},
       {"lab1", "E0200", "Invalid immediate expression", EXPR_MODE_FLOAT},
       {"lab1", "E0200", "Invalid immediate expression", EXPR_INT},
       {"lab1 == lab3", "E0200", "Operation cannot be performed on given operands", EXPR_MODE_RELOC},
       {"lab1 < 3", "E0200", "Operation cannot be performed on given operands", EXPR_MODE_RELOC},
-      {"1 / 0", "E0200", "Integer divide by zero", EXPR_MODE_RELOC},
-      {"1 % 0", "E0200", "Integer remainder by zero", EXPR_MODE_RELOC},
-      {"lab1 / 0", "E0200", "Illegal divide by zero", EXPR_MODE_RELOC},
       {"lab1 % (2 - 2)", "E0200", "Illegal remainder by zero", EXPR_MODE_RELOC},
-      {"1 << 129", "W0001", "Value out of range", EXPR_MODE_RELOC},
-      {"1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * "
-       "1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * "
-       "1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * 1.0e300 * "
-       "1.0e300 * 1.0e300 * 1.0e300 * 1.0e300",
-       "E0201", "Floating-point overflow", EXPR_MODE_ANY},
       {"lab1 - lab3", "E0200", "Unable to resolve this relocatable expression", EXPR_MODE_RELOC},
   };
   for (const bad_case &c : cases) {

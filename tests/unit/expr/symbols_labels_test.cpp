@@ -97,30 +97,6 @@ TEST_F(Labels, DroppingPendingLabels) {
   EXPECT_EQ(SYM_query("a"), nullptr);
 }
 
-TEST_F(Labels, DoubleLabelSilentInPass1ErrorInPass2) {
-  curseg = text_scn;
-  test_line l1(1), l2(5);
-  auto run = [&] {
-    curpc = 0;
-    LBL_save_name("twice", &l1);
-    LBL_define();
-    curpc = 4;
-    LBL_save_name("twice", &l2);
-    LBL_define();
-  };
-  std::string out = screen(run);
-  EXPECT_EQ(out, "");
-  EXPECT_EQ(SYM_query("twice")->sym_value.v_val, xi_from_int(0));
-
-  start_pass2();
-  out = screen(run);
-  // The address check fails as well, but an internal error after a counted
-  // error stays silent, and assembly goes on.
-  EXPECT_TRUE(shown(out, "E0300", "Symbol twice has already been defined")) << out;
-  EXPECT_EQ(out.find("defined differently"), std::string::npos) << out;
-  EXPECT_EQ(num_errors, 1u);
-}
-
 TEST_F(Labels, SecondPassKeepsTheFirstPassValue) {
   curseg = text_scn;
   test_line ln;
@@ -231,30 +207,6 @@ TEST_F(Labels, LabelKeepsTheCodeState) {
   LBL_save_name("thumb", &ln);
   LBL_define();
   EXPECT_EQ(SYM_query("thumb")->sym_state, 2u);
-}
-
-TEST_F(Labels, LocalLabelScopes) {
-  LOCLBL_init();
-  EXPECT_EQ(file_loclbl_cnt, 0);
-  LOCLBL_flush();
-  LOCLBL_flush();
-  EXPECT_EQ(file_loclbl_cnt, 2);
-  curpc = 40;
-  LOCLBL_block_start();
-  EXPECT_EQ(local_block_start, 40u);
-
-  // The lexer's names of `$1` in two scopes are two symbols; a reference out
-  // of scope stays undefined and is reported at the end.
-  curseg = text_scn;
-  test_line ln;
-  LBL_save_name("$1_$2", &ln);
-  LBL_define();
-  LOCLBL_flush();
-  SYM_find("$1_$" + std::to_string(file_loclbl_cnt));
-  pass1 = pass2 = 0;
-  std::string out = screen([] { SYM_checkdefs(); });
-  EXPECT_NE(out.find("  $1_$3\n"), std::string::npos) << out;
-  EXPECT_EQ(out.find("  $1_$2\n"), std::string::npos) << out;
 }
 
 }  // namespace

@@ -33,11 +33,6 @@ TEST_F(SymTable, FindCreatesOnceQueryOnlyFinds) {
   EXPECT_EQ(s->sym_object, nullptr);
 }
 
-TEST_F(SymTable, EmptyNameHasItsOwnBucket) {
-  symbol_record *s = SYM_find("");
-  EXPECT_EQ(names[1861], s);
-}
-
 TEST_F(SymTable, IgnoreCaseStoresUpperCase) {
   global_opts->setopt(OPT_SYMS_IGNORE_CASE);
   symbol_record *s = SYM_find("MixedCase");
@@ -253,22 +248,6 @@ TEST_F(SymTable, ResetClearsPassFlagsAndTurnsAutoImports) {
     EXPECT_EQ(SYM_get_vis(s), r.vis_after) << n;
     EXPECT_EQ(s->sym_storage, r.storage);
   }
-}
-
-TEST_F(SymTable, CheckdefsListsUndefinedNonGlobals) {
-  value_record one = icon(1);
-  SYM_define(SYM_find("defined"), &one);
-  SYM_global(SYM_find("external"));
-  SYM_find("missing_a");
-  SYM_find("missing_b");
-  pass1 = pass2 = 0;
-  std::string out = screen([] { SYM_checkdefs(); });
-  EXPECT_TRUE(shown(out, "E0300", "The following symbols are undefined:")) << out;
-  EXPECT_NE(out.find("  missing_a\n"), std::string::npos) << out;
-  EXPECT_NE(out.find("  missing_b\n"), std::string::npos) << out;
-  EXPECT_EQ(out.find("defined\n"), std::string::npos) << out;
-  EXPECT_EQ(out.find("external"), std::string::npos) << out;
-  EXPECT_EQ(num_errors, 1u);
 }
 
 TEST_F(SymTable, CheckdefsQuietWhenAllDefinedOrPreprocessing) {
