@@ -162,17 +162,7 @@ void OF_SECTION_TABLE::purge_deleted_sections()
 
 void OF_SECTION_TABLE::reorder_sections(std::vector<OF_SECTION *> order)
 {
-    RECORD_MAP<unsigned> map(sections_m.size());
-    std::vector<std::unique_ptr<OF_SECTION>> old = std::move(sections_m);
-    sections_m.clear();
-    sections_m.reserve(order.size());
-    for (OF_SECTION *s : order) {
-        unsigned old_id = s->id();
-        auto new_id = static_cast<unsigned>(sections_m.size());
-        sections_m.push_back(std::move(old[old_id]));
-        s->set_id(new_id);
-        map.set(old_id, new_id);
-    }
+    const RECORD_MAP<unsigned> map = OF_reorder_records(sections_m, order, [](OF_SECTION *r, unsigned id) { r->set_id(id); });
     update_translations(map);
     patch_section_refs(map);
 }

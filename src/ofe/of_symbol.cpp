@@ -133,18 +133,9 @@ void OF_SYMBOL_TABLE::purge_deleted_symbols()
 
 void OF_SYMBOL_TABLE::reorder_symbols(std::vector<OF_SYMBOL *> order)
 {
-    RECORD_MAP<unsigned> map(symbols_m.size());
-    std::vector<std::unique_ptr<OF_SYMBOL>> old = std::move(symbols_m);
-    symbols_m.clear();
-    symbols_m.reserve(order.size());
-    for (OF_SYMBOL *s : order) {
-        unsigned old_id = s->id();
-        auto new_id = static_cast<unsigned>(symbols_m.size());
-        symbols_m.push_back(std::move(old[old_id]));
-        s->set_id(new_id);
-        map.set(old_id, new_id);
-    }
-    if (map.identity() && old.size() == symbols_m.size()) return;
+    const size_t before = symbols_m.size();
+    const RECORD_MAP<unsigned> map = OF_reorder_records(symbols_m, order, [](OF_SYMBOL *r, unsigned id) { r->set_id(id); });
+    if (map.identity() && before == symbols_m.size()) return;
     update_translations(map);
     patch_symbol_refs(map);
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 class FHM_FILE;
@@ -135,5 +136,26 @@ private:
 };
 
 inline constexpr unsigned OF_NO_ID = ~0u;
+
+// Moves the records named by order (ids into table) to the front of table in
+// that order, renumbers them through set_id(record, id) (the owner's access),
+// drops the rest, and returns old id -> new id.
+template <class R, class SetId>
+RECORD_MAP<unsigned> OF_reorder_records(std::vector<std::unique_ptr<R>> &table, const std::vector<R *> &order,
+                                        SetId set_id)
+{
+    RECORD_MAP<unsigned> map(table.size());
+    std::vector<std::unique_ptr<R>> old = std::move(table);
+    table.clear();
+    table.reserve(order.size());
+    for (R *r : order) {
+        unsigned old_id = r->id();
+        auto new_id = static_cast<unsigned>(table.size());
+        table.push_back(std::move(old[old_id]));
+        set_id(r, new_id);
+        map.set(old_id, new_id);
+    }
+    return map;
+}
 
 }  // namespace OFE

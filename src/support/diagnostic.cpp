@@ -193,9 +193,8 @@ void DIAGNOSTIC::print_header()
     put_text(head.c_str(), wrap_headers_m);
 }
 
-void DIAGNOSTIC::vprint(const char *fmt, va_list ap)
+std::string DIAG_vformat(const char *fmt, va_list ap)
 {
-    if (!header_printed_ || suppress()) return;
     char small[512];
     va_list copy;
     va_copy(copy, ap);
@@ -205,17 +204,22 @@ void DIAGNOSTIC::vprint(const char *fmt, va_list ap)
         fputs("INTERNAL ERROR!:", stderr);
         fputs("vsnprintf misbehaving\n\n", stderr);
         small[sizeof small - 1] = '\0';
-        buffer_ = small;
-    } else if (static_cast<size_t>(n) < sizeof small) {
-        buffer_.assign(small, static_cast<size_t>(n));
-    } else {
-        buffer_.assign(static_cast<size_t>(n) + 1, '\0');
-        if (vsnprintf(buffer_.data(), buffer_.size(), fmt, ap) < 0) {
-            fputs("INTERNAL ERROR!:", stderr);
-            fputs("vsprintf misbehaving\n\n", stderr);
-        }
-        buffer_.resize(strlen(buffer_.c_str()));
+        return small;
     }
+    if (static_cast<size_t>(n) < sizeof small) return std::string(small, static_cast<size_t>(n));
+    std::string text(static_cast<size_t>(n) + 1, '\0');
+    if (vsnprintf(text.data(), text.size(), fmt, ap) < 0) {
+        fputs("INTERNAL ERROR!:", stderr);
+        fputs("vsprintf misbehaving\n\n", stderr);
+    }
+    text.resize(strlen(text.c_str()));
+    return text;
+}
+
+void DIAGNOSTIC::vprint(const char *fmt, va_list ap)
+{
+    if (!header_printed_ || suppress()) return;
+    buffer_ = DIAG_vformat(fmt, ap);
     print_formatted(buffer_.c_str());
 }
 

@@ -32,6 +32,8 @@ struct DIAG_INFO {
 // overridden, so the table is writable.
 extern DIAG_INFO DIAG_INFO_ENTRY[];
 const DIAG_INFO *DIAG_find_row(uint32_t id);
+// printf-style text of any length; a failing vsnprintf is reported on stderr.
+std::string DIAG_vformat(const char *fmt, va_list ap);
 
 // Where in the user's input a message points.
 struct DIAG_SRCINFO {

@@ -5,30 +5,10 @@
 #include "support/diagnostic.h"
 
 namespace {
-std::string vformat(const char *fmt, va_list ap)
-{
-    char small[512];
-    va_list copy;
-    va_copy(copy, ap);
-    int n = vsnprintf(small, sizeof small, fmt, copy);
-    va_end(copy);
-    if (n < 0) {
-        fputs("INTERNAL ERROR!:", stderr);
-        fputs("vsnprintf misbehaving\n\n", stderr);
-        small[sizeof small - 1] = '\0';
-        return small;
-    }
-    if (static_cast<size_t>(n) < sizeof small) return std::string(small, static_cast<size_t>(n));
-    std::string text(static_cast<size_t>(n) + 1, '\0');
-    vsnprintf(text.data(), text.size(), fmt, ap);
-    text.resize(static_cast<size_t>(n));
-    return text;
-}
-
 template <typename D>
 void say(const DIAG_SRCINFO *pos, const char *fmt, va_list ap)
 {
-    std::string text = vformat(fmt, ap);
+    std::string text = DIAG_vformat(fmt, ap);
     D d;
     if (pos) d.set_srcinfo(*pos);
     d.print_header();
