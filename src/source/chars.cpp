@@ -76,7 +76,12 @@ void ungetch() {
 }
 
 void skip_to_nextch() {
-  while (chtyp == CH_SPACE) nextch();
+  if (chtyp != CH_SPACE) return;
+  // Past a blank the reader is never in the first column, so of the comment
+  // rules of nextch only ';' applies, and only to the character that ends the run.
+  do getch();
+  while (chtyp == CH_SPACE);
+  if (chtyp != CH_EOL && ch == ';') LEX_drop_line();
 }
 
 void skip_to_space() {
