@@ -1,4 +1,5 @@
 // The operand reader that every directive's parse handler uses.
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -42,9 +43,10 @@ uint16_t kind_of_value(const value_record &v) {
 
 // An operand that takes over a heap value from the expression engine.
 operand *operand_from_value(value_record *v) {
+  // The result of EXPR_eval owns its parts on the heap: they move over.
   operand *op = new_operand(OP_NONE);
-  E_cpy2val(&op->value, v);
-  E_freeval(v);
+  op->value = *v;
+  std::free(v);
   op->kind = kind_of_value(op->value);
   return op;
 }
