@@ -12,6 +12,7 @@
 #include "driver/options.h"
 #include "driver/records.h"
 #include "listing/listing.h"
+#include "support/diagnostic.h"
 #include "source/copy.h"
 #include "source/lexer.h"
 #include "target/arm/trg.h"
@@ -30,21 +31,7 @@ constexpr const char *support_notice =
     "description of the problem and a sample of the sourcefile that caused this\n"
     "message to appear.\n";
 
-std::string vformat(const char *fmt, va_list ap) {
-  if (!fmt) return {};
-  va_list copy;
-  va_copy(copy, ap);
-  int n = std::vsnprintf(nullptr, 0, fmt, copy);
-  va_end(copy);
-  if (n < 0) {
-    std::fputs("INTERNAL ERROR!:vsnprintf misbehaving\n\n", stderr);
-    return fmt;
-  }
-  std::string out(static_cast<size_t>(n) + 1, '\0');
-  std::vsnprintf(out.data(), out.size(), fmt, ap);
-  out.resize(static_cast<size_t>(n));
-  return out;
-}
+std::string vformat(const char *fmt, va_list ap) { return fmt ? DIAG_vformat(fmt, ap) : std::string(); }
 
 const char *current_file_name() {
   if (f_name && *f_name) return f_name;
@@ -107,9 +94,11 @@ void emit(const Message &m, bool on_screen) {
 bool preprocessing() { return global_opts && opt_on(OPT_PREPROCESS); }
 
 void emit_checked(int severity, linebuf *line, const char *id, const char *fmt, va_list ap, bool caret = false) {
-  if (preprocessing()) return;
+  // Pass-1 lines are dropped unlisted and the message is not shown, so the
+  // text would go nowhere: it is not built.
+  if (preprocessing() || pass1) return;
   Message m{severity, line, id, vformat(fmt, ap), caret};
-  emit(m, !pass1);
+  emit(m, true);
 }
 
 bool warnings_are_errors() { return global_opts && opt_on(OPT_EMIT_WARNINGS_AS_ERRORS); }

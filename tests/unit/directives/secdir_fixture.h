@@ -1,6 +1,7 @@
 #pragma once
-// The section fixture with its object known as ELF, and what the section
-// and symbol directive tests look at: object section flags and symbols.
+// The section fixture with its object known to the driver as ELF, as
+// make_ofile leaves it, and what the directive and glue tests look at:
+// object section flags and symbols.
 #include <cstdint>
 
 #include "directives/sections.h"

@@ -1,6 +1,11 @@
 // ELF-specific behaviour of the model: repairs at lock, section symbols,
-// aliases by name, byte order changes, and groups made from a typed section.
+// aliases by name, byte order changes, groups made from a typed section,
+// and saving.
 #include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <filesystem>
 
 #include "ofe_test_util.h"
 
@@ -11,13 +16,10 @@ using namespace OFE;
 
 TEST(ElfModel, NullRecordsAreRepairedAtLock)
 {
-    clear_errors();
     auto f = make_elf();
     ELF_FILE *e = f->elf_api();
-    OF_SECTION *text = f->section_table()->new_section(".text");
-    text->raw_data().UINT32_write(0);
-    OF_SYMBOL *s = f->symbol_table()->new_symbol();
-    s->set_name("s");
+    new_section(f.get(), ".text");
+    new_symbol(f.get(), "s");
     f->symbol_table()->symbol(0)->set_name("not null");
     e->elf_section_table()->elf_section(0)->set_sh_type(SHT_PROGBITS);
     std::string path = temp_path("repaired.o");
@@ -36,7 +38,6 @@ TEST(ElfModel, NullRecordsAreRepairedAtLock)
 
 TEST(ElfModel, SectionSymbolsAliasesAndByteOrder)
 {
-    clear_errors();
     auto f = make_elf();
     ELF_FILE *e = f->elf_api();
     OF_SECTION *text = f->section_table()->new_section(".text");
@@ -52,10 +53,7 @@ TEST(ElfModel, SectionSymbolsAliasesAndByteOrder)
     OF_SYMBOL *exact = data->create_section_symbol();
     EXPECT_EQ(data->symbol(), exact);  // value 0 wins
 
-    OF_SYMBOL *a = f->symbol_table()->new_symbol();
-    a->set_name("a");
-    OF_SYMBOL *b = f->symbol_table()->new_symbol();
-    b->set_name("b");
+    OF_SYMBOL *a = new_symbol(f.get(), "a"), *b = new_symbol(f.get(), "b");
     ELF_SYMALIAS_TABLE *aliases = e->symalias_table(true);
     EXPECT_EQ(e->symalias_table(false), aliases);
     aliases->add_alias("a", "b");
@@ -76,9 +74,7 @@ TEST(ElfModel, SectionSymbolsAliasesAndByteOrder)
     EXPECT_TRUE(symver);
     f->machine_db()->elf_set_gnu_symver(f.get(), false);
 
-    std::string path = temp_path("aliases.o");
-    ASSERT_EQ(f->save_obj(path.c_str()), 0);
-    Elf out = parse_elf(path);
+    Elf out = save_and_parse(f.get(), "aliases.o");
     EXPECT_TRUE(out.big);
     EXPECT_EQ(out.u32(out.find(".text")->sh_offset), 0x01020304u);
     auto bytes = out.contents(*out.find(".ZQ.symbol.alias"));
@@ -90,7 +86,6 @@ TEST(ElfModel, SectionSymbolsAliasesAndByteOrder)
 
 TEST(ElfModel, GroupFromATypedSection)
 {
-    clear_errors();
     auto f = make_elf();
     OF_SECTION_TABLE *t = f->section_table();
     // As the section directives do it: a section that becomes a group later.
@@ -99,15 +94,10 @@ TEST(ElfModel, GroupFromATypedSection)
     g->set_sh_type(SHT_PROGBITS);
     g->set_sh_type(SHT_GROUP);
     g->set_sh_flags(0);
-    OF_SECTION *a = t->new_section(".text.fn");
+    OF_SECTION *a = new_section(f.get(), ".text.fn"), *b = new_section(f.get(), ".data.fn");
     a->set_exec();
-    a->raw_data().UINT32_write(0);
-    OF_SECTION *b = t->new_section(".data.fn");
     b->set_data();
-    b->raw_data().UINT32_write(0);
-    OF_SYMBOL *sig = f->symbol_table()->new_symbol();
-    sig->set_name("fn");
-    sig->set_section(a);
+    OF_SYMBOL *sig = new_symbol(f.get(), "fn", a);
     sig->set_binding(OFB_GLOBAL);
     OF_GROUP_TABLE *grp = g->group_api();
     ASSERT_NE(grp, nullptr);
@@ -143,6 +133,75 @@ TEST(ElfModel, GroupFromATypedSection)
     hg->group_api()->delete_member(m);
     EXPECT_EQ(m->elf_api()->sh_flags() & SHF_GROUP, 0u);
     EXPECT_EQ(hg->group_api()->member_count(), 0u);
+}
+
+// Saving never leaves a half-written file in place of an older one.
+std::size_t files_in(const std::string &dir)
+{
+    std::size_t n = 0;
+    for (const auto &entry : std::filesystem::directory_iterator(dir)) n += entry.is_regular_file();
+    return n;
+}
+
+TEST(Save, FailureLeavesTheOldFile)
+{
+    std::string dir = temp_path("save_dir");
+    std::filesystem::create_directories(dir);
+    std::string path = dir + "/out.o";
+    write_file(path, "previous contents");
+
+    auto f = make_elf();
+    f->section_table()->new_group("grp")->group_api()->add_member(new_section(f.get(), ".text"));  // no signature
+    EXPECT_EQ(f->save_obj(path.c_str()), -1);
+    EXPECT_TRUE(has_error(3, "a symbol has not been specified for the group section grp"));
+    EXPECT_TRUE(has_error(2, "an error occurred while writing \"" + path + "\""));
+    auto old = read_file(path);
+    EXPECT_EQ(std::string(old.begin(), old.end()), "previous contents");
+    EXPECT_EQ(files_in(dir), 1u);
+    std::string nowhere = temp_path("no/such/dir/out.o");
+    EXPECT_EQ(make_elf()->save_obj(nowhere.c_str()), -1);
+    EXPECT_TRUE(has_error(2, "failed to open \"" + nowhere + "\" for writing"));
+
+    // A file that may not be written is not replaced either.
+    std::string locked = dir + "/readonly.o";
+    write_file(locked, "keep");
+    std::filesystem::permissions(locked, std::filesystem::perms::owner_read);
+    auto k = make_elf();
+    if (access(locked.c_str(), W_OK) != 0) {  // root may write anyway
+        EXPECT_EQ(k->save_obj(locked.c_str()), -1);
+        EXPECT_TRUE(has_error(2, "failed to open \"" + locked + "\" for writing"));
+        auto kept = read_file(locked);
+        EXPECT_EQ(std::string(kept.begin(), kept.end()), "keep");
+    }
+    EXPECT_EQ(files_in(dir), 2u);
+}
+
+TEST(Save, SuccessReplacesTheFileAndKeepsContentsReadable)
+{
+    std::string dir = temp_path("save_ok");
+    std::filesystem::create_directories(dir);
+    std::string path = dir + "/out.o";
+    write_file(path, "previous contents");
+    auto f = make_elf();
+    OF_SECTION *data = new_section(f.get(), ".data", {0xCAFEF00D});
+    ASSERT_EQ(f->save_obj(path.c_str()), 0);
+    EXPECT_TRUE(errors().empty());
+    EXPECT_EQ(files_in(dir), 1u);
+    Elf e = parse_elf(path);
+    EXPECT_EQ(e.u32(e.find(".data")->sh_offset), 0xCAFEF00Du);
+    EXPECT_TRUE(f->saved());
+    EXPECT_EQ(f->elf_api()->formatted_size(), e.bytes.size());
+    EXPECT_EQ(f->own_state(), OFS_SAVED);
+    // The saved bytes now come back from the file.
+    const DATA_MAP &m = data->raw_data_nocheck();
+    EXPECT_EQ(m.file(), f->file_handle());
+    m.set_cursor(0);
+    EXPECT_EQ(m.UINT32_read(), 0xCAFEF00Du);
+
+    // Devices are written in place.
+    auto g = make_elf();
+    EXPECT_EQ(g->save_obj("/dev/null"), 0);
+    EXPECT_TRUE(errors().empty());
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <vector>
 
-#include "typical_object.h"
+#include "ofe_test_util.h"
 
 namespace ofe_test {
 namespace {
@@ -14,14 +14,12 @@ namespace {
 using namespace OFE;
 
 struct Readings {
-    std::string gnu;
-    std::string llvm;
+    std::string gnu, llvm;
 };
 
 // Both readers must take the file without a word on stderr.
 Readings read_with_tools(const std::string &path)
 {
-    Readings r;
     RunResult gnu = run("arm-none-eabi-readelf -a -W " + path);
     EXPECT_EQ(gnu.status, 0) << path;
     EXPECT_EQ(gnu.err, "") << path;
@@ -29,9 +27,7 @@ Readings read_with_tools(const std::string &path)
     EXPECT_EQ(llvm.status, 0) << path;
     EXPECT_EQ(llvm.err, "") << path;
     EXPECT_EQ(llvm.out.find("warning"), std::string::npos) << llvm.out;
-    r.gnu = gnu.out;
-    r.llvm = llvm.out;
-    return r;
+    return {gnu.out, llvm.out};
 }
 
 // Some line holds the words of `words`, in that order, whatever the spacing;
@@ -55,7 +51,6 @@ TEST(ElfTools, TypicalObjectReadsCleanly)
 {
     for (bool big : {false, true}) {
         SCOPED_TRACE(big ? "big-endian" : "little-endian");
-        clear_errors();
         TypicalObject t = build_typical(big);
         std::string path = temp_path(big ? "tools_be.o" : "tools_le.o");
         ASSERT_EQ(t.file->save_obj(path.c_str()), 0);
@@ -84,14 +79,10 @@ TEST(ElfTools, LinkerAcceptsObjects)
 {
     for (bool big : {false, true}) {
         SCOPED_TRACE(big ? "big-endian" : "little-endian");
-        clear_errors();
         TypicalObject t = build_typical(big);
         // A group member with its own relocations.
         t.inl->raw_data().UINT32_write(0);
-        OF_RELOC *r = t.inl->new_reloc(false);
-        r->set_offset(2);
-        r->set_type(t.file->reloc_type(OFR_RELLONG));
-        r->set_symbol(t.ext);
+        new_reloc(t.file.get(), t.inl, OFR_RELLONG, t.ext, 2);
         std::string in = temp_path(big ? "ld_in_be.o" : "ld_in_le.o");
         std::string out = temp_path(big ? "ld_out_be.o" : "ld_out_le.o");
         ASSERT_EQ(t.file->save_obj(in.c_str()), 0);
@@ -109,7 +100,6 @@ TEST(ElfTools, LinkerAcceptsObjects)
 
 TEST(ElfTools, SmallerObjectsReadCleanly)
 {
-    clear_errors();
     // Sections only, no symbols but the null one.
     auto plain = make_elf(false, nullptr);
     std::string p1 = temp_path("plain.o");
@@ -118,19 +108,12 @@ TEST(ElfTools, SmallerObjectsReadCleanly)
 
     // Unwind sections with links and a metadata section.
     auto f = make_elf(true);
-    OF_SECTION *code = f->section_table()->new_section(".text.f");
+    OF_SECTION *code = new_section(f.get(), ".text.f", {0xE12FFF1E});
     code->set_exec();
-    code->raw_data().UINT32_write(0xE12FFF1E);
-    auto *x = static_cast<ELF_SECTION *>(f->section_table()->new_section(".ARM.exidx.text.f"));
+    auto *x = static_cast<ELF_SECTION *>(new_section(f.get(), ".ARM.exidx.text.f", {0, 1}));
     x->set_sh_link_order(code->id());
-    x->raw_data().UINT32_write(0);
-    x->raw_data().UINT32_write(1);
-    OF_RELOC *r = x->new_reloc(false);
-    r->set_type(f->reloc_type(OFR_ARM_PREL31));
-    r->set_symbol(code->create_section_symbol());
-    auto *fn = f->elf_api()->elf_symbol_table()->new_elf_symbol();
-    fn->set_name("f");
-    fn->set_section(code);
+    new_reloc(f.get(), x, OFR_ARM_PREL31, code->create_section_symbol());
+    auto *fn = new_symbol(f.get(), "f", code)->elf_api();
     fn->set_type(OFY_FUNCTION);
     fn->set_binding(OFB_GLOBAL);
     fn->set_retained(true);

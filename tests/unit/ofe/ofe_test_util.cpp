@@ -39,6 +39,7 @@ void record_error(OBJECT_FILE *f, OF_ERROR_CODE code, const char *text)
 
 std::unique_ptr<OBJECT_FILE> make_elf(bool big_endian, const char *producer)
 {
+    clear_errors();
     std::unique_ptr<OBJECT_FILE> f(
         OBJECT_FILE::new_OBJECT_FILE(OFF_ELF, OFV_ELF1, OFC_32, OFM_ARM, nullptr, "test.obj"));
     if (!f) throw std::runtime_error("no ELF object");
@@ -49,7 +50,29 @@ std::unique_ptr<OBJECT_FILE> make_elf(bool big_endian, const char *producer)
     return f;
 }
 
-ELF_FILE *elf(const std::unique_ptr<OBJECT_FILE> &f) { return f->elf_api(); }
+OF_SECTION *new_section(OBJECT_FILE *f, const char *name, std::initializer_list<uint32_t> words)
+{
+    OF_SECTION *s = f->section_table()->new_section(name);
+    for (uint32_t w : words) s->raw_data().UINT32_write(w);
+    return s;
+}
+
+OF_SYMBOL *new_symbol(OBJECT_FILE *f, const char *name, OF_SECTION *section)
+{
+    OF_SYMBOL *s = f->symbol_table()->new_symbol();
+    s->set_name(name);
+    if (section) s->set_section(section);
+    return s;
+}
+
+OF_RELOC *new_reloc(OBJECT_FILE *f, OF_SECTION *s, unsigned type, OF_SYMBOL *sym, uint64_t offset)
+{
+    OF_RELOC *r = s->new_reloc(f->reloc_type(type)->is_rela());
+    r->set_offset(offset);
+    r->set_type(f->reloc_type(type));
+    if (sym) r->set_symbol(sym);
+    return r;
+}
 
 namespace {
 
@@ -160,13 +183,7 @@ std::vector<Sym> Elf::symbols() const
     if (!symtab) return out;
     const Shdr &strtab = sections.at(symtab->sh_link);
     for (uint32_t off = symtab->sh_offset; off < symtab->sh_offset + symtab->sh_size; off += 16) {
-        Sym s{};
-        s.st_name = u32(off);
-        s.st_value = u32(off + 4);
-        s.st_size = u32(off + 8);
-        s.st_info = bytes.at(off + 12);
-        s.st_other = bytes.at(off + 13);
-        s.st_shndx = u16(off + 14);
+        Sym s{"", u32(off), u32(off + 4), u32(off + 8), bytes.at(off + 12), bytes.at(off + 13), u16(off + 14)};
         s.name = reinterpret_cast<const char *>(&bytes.at(strtab.sh_offset + s.st_name));
         out.push_back(s);
     }
@@ -188,42 +205,108 @@ Elf parse_elf(const std::string &path)
     e.bytes = read_file(path);
     if (e.bytes.size() < 52 || e.bytes[0] != 0x7F || e.bytes[1] != 'E') throw std::runtime_error("not ELF");
     e.big = e.bytes[5] == 2;
-    e.e_type = e.u16(16);
-    e.e_machine = e.u16(18);
-    e.e_version = e.u32(20);
-    e.e_entry = e.u32(24);
-    e.e_phoff = e.u32(28);
-    e.e_shoff = e.u32(32);
-    e.e_flags = e.u32(36);
-    e.e_ehsize = e.u16(40);
-    e.e_phentsize = e.u16(42);
-    e.e_phnum = e.u16(44);
-    e.e_shentsize = e.u16(46);
-    e.e_shnum = e.u16(48);
-    e.e_shstrndx = e.u16(50);
-    uint32_t count = e.e_shnum;
-    if (count == 0 && e.e_shoff) count = e.u32(e.e_shoff + 20);  // sh_size of section 0
+    const uint32_t shoff = e.u32(32), shstrndx_field = e.u16(50);
+    uint32_t count = e.u16(48);
+    if (count == 0 && shoff) count = e.u32(shoff + 20);  // sh_size of section 0
     for (uint32_t i = 0; i < count; ++i) {
-        std::size_t h = e.e_shoff + std::size_t{i} * 40;
-        Shdr s{};
-        s.sh_name = e.u32(h);
-        s.sh_type = e.u32(h + 4);
-        s.sh_flags = e.u32(h + 8);
-        s.sh_addr = e.u32(h + 12);
-        s.sh_offset = e.u32(h + 16);
-        s.sh_size = e.u32(h + 20);
-        s.sh_link = e.u32(h + 24);
-        s.sh_info = e.u32(h + 28);
-        s.sh_addralign = e.u32(h + 32);
-        s.sh_entsize = e.u32(h + 36);
-        e.sections.push_back(s);
+        auto w = [&](std::size_t k) { return e.u32(shoff + std::size_t{i} * 40 + 4 * k); };
+        e.sections.push_back({"", w(0), w(1), w(2), w(3), w(4), w(5), w(6), w(7), w(8), w(9)});
     }
-    uint32_t shstrndx = e.e_shstrndx == 0xFFFF ? e.sections.at(0).sh_link : e.e_shstrndx;
+    uint32_t shstrndx = shstrndx_field == 0xFFFF ? e.sections.at(0).sh_link : shstrndx_field;
     if (shstrndx < e.sections.size()) {
         const Shdr &names = e.sections[shstrndx];
         for (auto &s : e.sections) s.name = reinterpret_cast<const char *>(&e.bytes.at(names.sh_offset + s.sh_name));
     }
     return e;
+}
+
+Elf save_and_parse(OBJECT_FILE *f, const std::string &name)
+{
+    std::string path = temp_path(name);
+    if (f->save_obj(path.c_str()) != 0) throw std::runtime_error("could not save " + name);
+    return parse_elf(path);
+}
+
+TypicalObject build_typical(bool big_endian)
+{
+    TypicalObject t;
+    t.file = make_elf(big_endian);
+    OBJECT_FILE *f = t.file.get();
+    ELF_FILE *e = f->elf_api();
+
+    // Sections at their first mention, contents during "pass 2".
+    auto section = [&](const char *name, void (OF_SECTION::*kind)(), unsigned align) {
+        OF_SECTION *s = f->section_table()->new_section(name);
+        s->set_allocated(true);
+        (s->*kind)();
+        s->set_align(align);
+        return s;
+    };
+    t.text = section(".text", &OF_SECTION::set_exec, 4);
+    // bl ext; loop: nop; movt r0, #:upper16:ext
+    for (uint32_t w : {0xEBFFFFFEu, 0xE1A00000u, 0xE3400000u}) t.text->raw_data().UINT32_write(w);
+    t.data = section(".data", &OF_SECTION::set_data, 4);
+    t.data->raw_data().UINT32_write(0);
+    t.data->raw_data().UINT16_write(0x1234);
+    t.bss = section(".bss", &OF_SECTION::set_bss, 8);
+    t.user = section("mysect", &OF_SECTION::set_const_data, 16);
+    t.user->raw_data().string_write("hello");
+    t.inl = section(".text.inl", &OF_SECTION::set_exec, 2);
+    t.inl->raw_data().UINT16_write(0x4770);  // bx lr
+    t.group = f->section_table()->new_section(".group");
+    t.group->elf_api()->set_sh_type(SHT_GROUP);
+    t.group->elf_api()->set_sh_flags(0);
+    t.debug = f->section_table()->new_section(".debug_info");
+    t.debug->raw_data().UINT32_write(7);
+
+    // Relocations, in pass 2 order; their symbols are bound once all symbols exist.
+    OF_RELOC *call = new_reloc(f, t.text, OFR_ARM_CALL), *movt = new_reloc(f, t.text, OFR_ARM_MOVT_ABS, nullptr, 8);
+    movt->elf_api()->set_addend(0x10);
+    OF_RELOC *word = new_reloc(f, t.data, OFR_RELLONG), *half = new_reloc(f, t.data, OFR_RELWORD, nullptr, 4);
+    OF_RELOC *dbg = new_reloc(f, t.debug, OFR_RELLONG);
+
+    // Symbols at the end: section symbols first, then labels and globals.
+    for (OF_SECTION *s : {t.text, t.data, t.bss, t.user, t.inl, t.group, t.debug}) s->create_section_symbol()->set_value(0);
+    auto symbol = [&](const char *name, OF_SECTION *s, uint64_t value, OF_SYM_BINDING binding) {
+        OF_SYMBOL *y = e->elf_symbol_table()->new_symbol();
+        y->set_name(name);
+        if (s) y->set_section(s);
+        if (value) y->set_value(value);
+        y->set_binding(binding);
+        return y;
+    };
+    t.loop = symbol("loop", t.text, 4, OFB_LOCAL);
+    t.main_sym = symbol("main", t.text, 0, OFB_GLOBAL);
+    t.main_sym->set_type(OFY_FUNCTION);
+    t.main_sym->set_size(12);
+    t.main_sym->elf_api()->set_visibility(STV_DEFAULT);
+    t.weak = symbol("wk", t.data, 4, OFB_WEAK);
+    t.weak->set_type(OFY_OBJECT);
+    t.ext = symbol("ext", nullptr, 0, OFB_GLOBAL);
+    t.ext->set_kind(OFK_UNDEFINED);
+    t.ext->elf_api()->set_visibility(STV_DEFAULT);
+    t.common = symbol("cmn", nullptr, 0, OFB_GLOBAL);
+    t.common->set_kind(OFK_COMMON);
+    t.common->set_value(4);
+    t.common->set_size(8);
+    t.common->set_type(OFY_OBJECT);
+    t.inl_sym = symbol(".text.inl", t.inl, 0, OFB_GLOBAL);
+    t.inl_sym->set_type(OFY_FUNCTION);
+    e->symalias_table(true)->add_alias(t.weak->id(), t.main_sym->id());
+
+    call->set_symbol(t.ext);
+    movt->set_symbol(t.ext);
+    word->set_symbol(t.main_sym);
+    half->set_symbol(t.loop);
+    dbg->set_symbol(t.text->symbol());
+
+    t.bss->set_size(16);
+    OF_GROUP_TABLE *g = t.group->group_api();
+    g->set_comdat_flag();
+    g->add_member(t.inl);
+    g->set_symbol(t.inl_sym);
+    f->machine_db()->set_zq_sh_flag(t.user, ZQ_SHF_RETAIN, true);
+    return t;
 }
 
 }  // namespace ofe_test

@@ -4,9 +4,9 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "ofe/ofe.h"
@@ -26,9 +26,14 @@ bool has_error(int code, const std::string &text_part);
 void record_error(OFE::OBJECT_FILE *f, OFE::OF_ERROR_CODE code, const char *text);
 
 // An ELF object as the driver sets it up: endianness, producer "Assembler",
-// handler, `.symtab` with hidden default visibility.
+// handler, `.symtab` with hidden default visibility. Clears the error log.
 std::unique_ptr<OFE::OBJECT_FILE> make_elf(bool big_endian = false, const char *producer = "Assembler");
-OFE::ELF_FILE *elf(const std::unique_ptr<OFE::OBJECT_FILE> &f);
+
+// A section holding `words`, a named symbol, a relocation of `type` at `offset`.
+OFE::OF_SECTION *new_section(OFE::OBJECT_FILE *f, const char *name, std::initializer_list<uint32_t> words = {0});
+OFE::OF_SYMBOL *new_symbol(OFE::OBJECT_FILE *f, const char *name, OFE::OF_SECTION *section = nullptr);
+OFE::OF_RELOC *new_reloc(OFE::OBJECT_FILE *f, OFE::OF_SECTION *s, unsigned type, OFE::OF_SYMBOL *sym = nullptr,
+                         uint64_t offset = 0);
 
 std::string temp_path(const std::string &name);
 std::vector<unsigned char> read_file(const std::string &path);
@@ -36,8 +41,7 @@ void write_file(const std::string &path, const std::string &contents);
 
 struct RunResult {
     int status = -1;
-    std::string out;
-    std::string err;
+    std::string out, err;
 };
 RunResult run(const std::string &command);
 
@@ -57,14 +61,12 @@ struct Sym {
 struct Rel {
     uint32_t offset, info;
     int32_t addend;
+    bool operator==(const Rel &) const = default;
 };
 
 struct Elf {
     std::vector<unsigned char> bytes;
     bool big = false;
-    uint16_t e_type = 0, e_machine = 0, e_ehsize = 0, e_phentsize = 0, e_phnum = 0, e_shentsize = 0,
-             e_shnum = 0, e_shstrndx = 0;
-    uint32_t e_version = 0, e_entry = 0, e_phoff = 0, e_shoff = 0, e_flags = 0;
     std::vector<Shdr> sections;
 
     uint32_t u32(std::size_t off) const;
@@ -78,5 +80,19 @@ struct Elf {
 };
 
 Elf parse_elf(const std::string &path);
+// Saves `f` under `name` in the temporary directory and reads it back.
+Elf save_and_parse(OFE::OBJECT_FILE *f, const std::string &name);
+
+// One object with a bit of everything, built through the engine's interface
+// in the order the assembler uses.
+struct TypicalObject {
+    std::unique_ptr<OFE::OBJECT_FILE> file;
+    OFE::OF_SECTION *text = nullptr, *data = nullptr, *bss = nullptr, *user = nullptr, *debug = nullptr,
+                    *inl = nullptr, *group = nullptr;
+    OFE::OF_SYMBOL *main_sym = nullptr, *loop = nullptr, *weak = nullptr, *ext = nullptr, *common = nullptr,
+                   *inl_sym = nullptr;
+};
+
+TypicalObject build_typical(bool big_endian);
 
 }  // namespace ofe_test

@@ -43,8 +43,13 @@ class LexerTest : public ::testing::Test {
   }
 
   static void reset_state() {
+    // No command-line includes; in pass 1, so that none is kept for pass 2.
     pass1 = 1;
-    pass2 = 0;
+    cmd_line_includes_cnt = 0;
+    cmdline_include_init();
+    // Pass 2: only there are messages built and attached to their lines.
+    pass1 = 0;
+    pass2 = 1;
     endfile = 0;
     num_errors = 0;
     num_warnings = 0;
@@ -57,8 +62,6 @@ class LexerTest : public ::testing::Test {
     f_temp_del = 0;
     paths.assign(1, "");
     LST_control = 0xB000;
-    cmd_line_includes_cnt = 0;
-    cmdline_include_init();
     LEX_reset();
   }
 

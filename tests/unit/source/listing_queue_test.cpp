@@ -21,6 +21,14 @@ TEST_F(LexerTest, GroupsMoveAndRelease) {
   LST_getln();
   LST_getln();
   EXPECT_EQ(groups(), (std::vector<std::vector<std::string>>{{"a\n", "b\n"}}));
+  const linebuf *first = curlst->first;  // each line carries its place
+  EXPECT_EQ(first->text, first->source_text);
+  EXPECT_EQ(first->line_number, 1u);
+  EXPECT_EQ(first->next->line_number, 2u);
+  EXPECT_EQ(first->copy_letter, ' ');
+  EXPECT_STREQ(first->file, "main.asm");
+  EXPECT_EQ(first->flags, 31);
+  EXPECT_EQ(first->length, 2u);
   LST_mvlnbuf(LST_FIRST);  // the line read ahead waits in a group of its own
   EXPECT_EQ(groups(), (std::vector<std::vector<std::string>>{{"a\n"}, {"b\n"}}));
   LST_getln();
@@ -32,6 +40,8 @@ TEST_F(LexerTest, GroupsMoveAndRelease) {
   EXPECT_STREQ(c->text, "c\n");
   LST_attach_line(c, LST_NEWGROUP);
   EXPECT_EQ(groups(), (std::vector<std::vector<std::string>>{{"b\n"}, {"c\n"}}));
+  LST_getln();
+  EXPECT_EQ(endfile, 1);
   LST_clear();
   EXPECT_EQ(curlst, nullptr);
   EXPECT_EQ(lastlst, nullptr);
