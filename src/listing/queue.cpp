@@ -42,6 +42,17 @@ const char *shared_file_name(const char *name) {
   return last;
 }
 
+// Released lines, kept for reuse: every source line makes one.
+linebuf *spare_lines = nullptr;
+
+linebuf *alloc_line() {
+  linebuf *line = spare_lines;
+  if (!line) return new linebuf{};
+  spare_lines = line->next;
+  *line = linebuf{};
+  return line;
+}
+
 void free_line(linebuf *line) {
   for (pending_label *p = LBL_current; p; p = p->next)
     if (p->line == line) p->line = nullptr;
@@ -55,7 +66,8 @@ void free_line(linebuf *line) {
   std::free(line->source_text);
   std::free(line->expanded_text);
   for (char *m : line->messages) std::free(m);
-  delete line;
+  line->next = spare_lines;
+  spare_lines = line;
 }
 
 }  // namespace
@@ -67,7 +79,7 @@ void LST_getln() {
     return;
   }
   if (MAC_lvl < 0) ++f_lnum;
-  auto *line = new linebuf{};
+  linebuf *line = alloc_line();
   line->flags = new_line_flags();
   line->copy_letter = f_lchar;
   line->file = shared_file_name(f_name ? f_name : "");
