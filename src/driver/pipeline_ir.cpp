@@ -2,6 +2,9 @@
 // releases it.
 #include <cstdlib>
 
+#include <cstring>
+#include <vector>
+
 #include "directives/sections.h"
 #include "driver/diag.h"
 #include "driver/directive_ids.h"
@@ -59,10 +62,20 @@ bool skip_blank_lines() {
   return !endfile;
 }
 
+// Released statement records, kept for reuse.
+std::vector<instruct *> spare_records;
+
 }  // namespace
 
 instruct *IR_alloc(uint16_t kind, const void *record, linebuf *line) {
-  auto *ir = static_cast<instruct *>(safecalloc(1, sizeof(instruct)));
+  instruct *ir;
+  if (spare_records.empty()) {
+    ir = static_cast<instruct *>(safecalloc(1, sizeof(instruct)));
+  } else {
+    ir = spare_records.back();
+    spare_records.pop_back();
+    std::memset(static_cast<void *>(ir), 0, sizeof *ir);
+  }
   ir->kind = kind;
   ir->record = record;
   ir->line = line;
@@ -168,7 +181,7 @@ void IR_free(instruct *ir) {
     IR_free_oprnd(slot);
     slot = nullptr;
   }
-  free(ir);
+  spare_records.push_back(ir);
 }
 
 int IR_getline() {

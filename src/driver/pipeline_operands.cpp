@@ -20,10 +20,21 @@ char *copy_text(const char *text) {
   return s;
 }
 
+// Released operands, kept for reuse: every statement makes some.
+operand *spare_operands = nullptr;
+
+operand *alloc_operand() {
+  operand *op = spare_operands;
+  if (!op) return static_cast<operand *>(safecalloc(1, sizeof(operand)));
+  spare_operands = op->next;
+  std::memset(static_cast<void *>(op), 0, sizeof *op);
+  return op;
+}
+
 }  // namespace
 
 operand *new_operand(uint16_t kind) {
-  auto *op = static_cast<operand *>(safecalloc(1, sizeof(operand)));
+  operand *op = alloc_operand();
   op->kind = kind;
   return op;
 }
@@ -58,7 +69,7 @@ operand *create_reg_operand(const char *name, unsigned short kind) {
 
 operand *duplicate_operand(operand *src) {
   if (!src) return nullptr;
-  auto *op = static_cast<operand *>(safemalloc(sizeof(operand)));
+  operand *op = alloc_operand();
   *op = *src;
   E_cpy2val(&op->value, &src->value);
   op->next = nullptr;
@@ -104,7 +115,8 @@ void IR_free_oprnd(operand *op) {
   while (op) {
     operand *next = op->next;
     E_freeparts(&op->value);
-    free(op);
+    op->next = spare_operands;
+    spare_operands = op;
     op = next;
   }
 }
