@@ -2,10 +2,10 @@
 // reset between the passes and the report of undefined symbols.
 #include "expr/symbols.h"
 
-#include <array>
 #include <cstdio>
 #include <cstring>
 #include <strings.h>
+#include <unordered_map>
 
 #include "driver/diag.h"
 #include "driver/driver.h"
@@ -46,27 +46,30 @@ normal_name normalise(std::string_view given) {
   return n;
 }
 
+// Plain look-ups (not escaped, not built-in) find the first record of the
+// name in its chain. Chains grow long in large sources, so that record is
+// also indexed by name; only SYM_find links records in and SYM_init frees them.
+struct name_key {
+  std::string_view text;  // the record's own sym_name
+  uint32_t full_hash;
+  bool operator==(const name_key &o) const { return text == o.text; }
+};
+struct name_key_hash {
+  size_t operator()(const name_key &k) const { return k.full_hash; }
+};
+std::unordered_map<name_key, symbol_record *, name_key_hash> first_of_name;
+
 // The bucket walk shared by SYM_find and SYM_query. `after` receives the
 // last built-in record of equal name that an escaped user search passed.
-// Plain look-ups (not escaped, not built-in) find the first record of the
-// name in its chain. Chains grow long in large sources, so the last answer
-// per hash slot is kept; inserting or freeing records clears the slots.
-constexpr size_t RECENT_SLOTS = 1 << 14;
-std::array<symbol_record *, RECENT_SLOTS> recent{};
-
-symbol_record *&recent_slot(uint32_t full_hash) { return recent[full_hash % RECENT_SLOTS]; }
-
 symbol_record *bucket_match(const normal_name &n, bool builtin, symbol_record **after) {
-  const bool plain = !n.escaped && !builtin;
-  if (plain) {
-    symbol_record *r = recent_slot(n.full_hash);
-    if (r && r->sym_hash == n.full_hash && r->sym_name == n.text) return r;
+  if (!n.escaped && !builtin) {
+    auto it = first_of_name.find({n.text, n.full_hash});
+    return it == first_of_name.end() ? nullptr : it->second;
   }
   for (symbol_record *s = names[n.bucket()]; s; s = s->sym_next) {
     if (s->sym_hash != n.full_hash || s->sym_name != n.text) continue;
     bool is_builtin = (s->sym_flags & SYMF_BUILTIN) != 0;
     if (!n.escaped) {
-      if (plain) recent_slot(n.full_hash) = s;
       if (!builtin || is_builtin) return s;
     } else if (builtin == is_builtin) {
       return s;
@@ -110,11 +113,12 @@ symbol_record *SYM_find(std::string_view name, bool builtin) {
   if (!s) {
     s = new_symbol(n.text, builtin);
     s->sym_hash = n.full_hash;
-    recent_slot(n.full_hash) = nullptr;  // the first record of the name may change
-    // Behind the built-in record, so plain look-ups keep finding it first.
+    // Behind the built-in record, so plain look-ups keep finding it first;
+    // at the head of the chain it is the first record of its name.
     symbol_record **link = after ? &after->sym_next : &names[n.bucket()];
     s->sym_next = *link;
     *link = s;
+    if (!after) first_of_name.insert_or_assign(name_key{s->sym_name, s->sym_hash}, s);
   }
   if (xref_wanted(s)) {
     s->sym_xref = new xref_record{s->sym_xref, static_cast<uint16_t>(static_cast<unsigned char>(f_lchar)),
@@ -249,7 +253,7 @@ bool is_imported_undef(const symbol_record *sym) {
 }
 
 void SYM_init() {
-  recent.fill(nullptr);
+  first_of_name.clear();
   for (int h = 0; h <= NAME_BUCKETS; ++h) {
     while (symbol_record *s = names[h]) {
       names[h] = s->sym_next;
