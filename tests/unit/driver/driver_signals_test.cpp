@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include "driver/driver.h"
 #include "driver/driver_run.h"
@@ -55,18 +56,10 @@ TEST(DriverSignals, Reports) {
 }
 
 TEST(DriverSignals, HandlerLeavesWithStatusTwo) {
-  EXPECT_EXIT(
-      {
-        signal_init();
-        raise(SIGTERM);
-      },
-      ::testing::ExitedWithCode(2), "received a terminate signal");
-  EXPECT_EXIT(
-      {
-        signal_init();
-        raise(SIGFPE);
-      },
-      ::testing::ExitedWithCode(2), "INTERNAL ERROR: .* received a floating point exception");
+  const std::pair<int, const char *> cases[] = {{SIGTERM, "received a terminate signal"},
+                                                {SIGFPE, "INTERNAL ERROR: .* received a floating point exception"}};
+  for (const auto &[sig, text] : cases)
+    EXPECT_EXIT((signal_init(), raise(sig)), ::testing::ExitedWithCode(2), text);
 }
 
 TEST(DriverSignals, ContextNamesTheSourceFile) {

@@ -4,6 +4,7 @@
 
 #include <cctype>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -23,28 +24,13 @@ std::string squeeze(const std::string &s) {
 }
 
 const char *op_text(uint32_t op) {
-  switch (op) {
-    case EOP_ADD: return "+";
-    case EOP_SUB: return "-";
-    case EOP_MPY: return "*";
-    case EOP_DIV: return "/";
-    case EOP_MOD: return "%";
-    case EOP_SR: return ">>>";
-    case EOP_ASR: return ">>";
-    case EOP_SL: return "<<";
-    case EOP_AND: return "&";
-    case EOP_OR: return "|";
-    case EOP_XOR: return "^";
-    case EOP_NOTB: return "~";
-    case EOP_LT: return "<";
-    case EOP_LE: return "<=";
-    case EOP_GT: return ">";
-    case EOP_GE: return ">=";
-    case EOP_EQ: return "==";
-    case EOP_NE: return "!=";
-    case EOP_NOT: return "!";
-    default: return E_opname(op);
-  }
+  static const std::pair<uint32_t, const char *> ops[] = {
+      {EOP_ADD, "+"}, {EOP_SUB, "-"}, {EOP_MPY, "*"}, {EOP_DIV, "/"}, {EOP_MOD, "%"},  {EOP_SR, ">>>"}, {EOP_ASR, ">>"},
+      {EOP_SL, "<<"}, {EOP_AND, "&"}, {EOP_OR, "|"},  {EOP_XOR, "^"}, {EOP_NOTB, "~"}, {EOP_LT, "<"},   {EOP_LE, "<="},
+      {EOP_GT, ">"},  {EOP_GE, ">="}, {EOP_EQ, "=="}, {EOP_NE, "!="}, {EOP_NOT, "!"}};
+  for (const auto &[o, text] : ops)
+    if (o == op) return text;
+  return E_opname(op);
 }
 
 }  // namespace
@@ -76,24 +62,6 @@ void expr_lex_done() {
   LEX_droptkn(curtk);
   curtk = nullptr;
   LEX_reset();
-}
-
-void ExprTest::SetUp() {
-  SYM_init();
-  global_opts = new option_obj(true);
-  in_pass2();
-  curpc = 0;
-  curseg = nullptr;
-  num_errors = num_warnings = 0;
-  eval_depth = 0;
-}
-
-void ExprTest::TearDown() {
-  expr_lex_done();
-  SYM_init();
-  delete global_opts;
-  global_opts = nullptr;
-  in_pass1();
 }
 
 value_record *ExprTest::eval(const std::string &text, uint32_t flags, uint32_t width, uint16_t allow_diff) {

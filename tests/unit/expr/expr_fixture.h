@@ -1,19 +1,11 @@
 #pragma once
 // Expressions read from source text through the lexer, with the messages
 // that reach the screen captured (shown as "[ID] text").
-#include <gtest/gtest.h>
-
-#include <string>
-
-#include "driver/diag.h"
-#include "driver/driver.h"
 #include "directives/sections.h"
-#include "driver/options.h"
-#include "expr/expr.h"
 #include "expr/expr_internal.h"
-#include "expr/symbols.h"
 #include "source/lexer.h"
 #include "support/memory.h"
+#include "symbols_fixture.h"
 
 // Two code sections and an absolute one; only their identity and kind matter.
 extern section_record *const scn_a;
@@ -25,12 +17,18 @@ void expr_lex_line(const std::string &text);
 // Releases the tokens of the line.
 void expr_lex_done();
 
-class ExprTest : public ::testing::Test {
+// Pass 2 unless a test says otherwise.
+class ExprTest : public SymbolsTest {
  protected:
-  void SetUp() override;
-  void TearDown() override;
-
-  // Pass 2 unless a test says otherwise; the table keeps its symbols.
+  void SetUp() override {
+    SymbolsTest::SetUp();
+    in_pass2();
+    eval_depth = 0;
+  }
+  void TearDown() override {
+    expr_lex_done();
+    SymbolsTest::TearDown();
+  }
   static void in_pass1() { pass1 = 1; pass2 = 0; }
   static void in_pass2() { pass1 = 0; pass2 = 1; }
 

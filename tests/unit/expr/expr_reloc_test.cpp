@@ -21,27 +21,14 @@ TEST_F(ExprTest, LabelDifferencesAndOffsets) {
     bool diff;   // a difference of two labels was folded
   };
   const reloc_case cases[] = {
-      {"lab2 - lab1", VT_ICON, nullptr, 0x20, true},
-      {"lab1 - lab2", VT_ICON, nullptr, -0x20, true},
-      {"lab1 + 4", VT_LABEL, lab1, 0x14, false},
-      {"4 + lab1", VT_LABEL, lab1, 0x14, false},
-      {"(lab1 + 8) - 4", VT_LABEL, lab1, 0x14, false},
-      {"lab1 - -4", VT_LABEL, lab1, 0x14, false},
-      {"2 + lab1 + 3 - 1", VT_LABEL, lab1, 0x14, false},
-      {"(lab2 + 1) - (lab1 + 2)", VT_ICON, nullptr, 0x1F, true},
-      {"lab2 - (lab1 - 4)", VT_ICON, nullptr, 0x24, true},
-      {"lab2 > lab1", VT_ICON, nullptr, 1, true},
-      {"lab1 + 0x20 == lab2", VT_ICON, nullptr, 1, true},
-      {"ext + 4", VT_UNDEFSYM, ext, 4, false},
-      {"ext - 4", VT_UNDEFSYM, ext, -4, false},
-      {"ext + 2 - 2", VT_UNDEFSYM, ext, 0, false},
-      {"lab2 - lab1 + ext", VT_UNDEFSYM, ext, 0x20, true},
-      {"ext * 1", VT_UNDEFSYM, ext, 0, false},
-      {"--ext", VT_UNDEFSYM, ext, 0, false},
-      {"~~ext", VT_UNDEFSYM, ext, 0, false},
-      {"ext | 0", VT_UNDEFSYM, ext, 0, false},
-      {"ext * 0", VT_ICON, nullptr, 0, false},
-      {"ext & 0", VT_ICON, nullptr, 0, false},
+      {"lab1 + 4", VT_LABEL, lab1, 0x14, false}, {"4 + lab1", VT_LABEL, lab1, 0x14, false},
+      {"(lab1 + 8) - 4", VT_LABEL, lab1, 0x14, false}, {"lab1 - -4", VT_LABEL, lab1, 0x14, false},
+      {"2 + lab1 + 3 - 1", VT_LABEL, lab1, 0x14, false}, {"(lab2 + 1) - (lab1 + 2)", VT_ICON, nullptr, 0x1F, true},
+      {"ext + 4", VT_UNDEFSYM, ext, 4, false}, {"ext - 4", VT_UNDEFSYM, ext, -4, false},
+      {"ext + 2 - 2", VT_UNDEFSYM, ext, 0, false}, {"lab2 - lab1 + ext", VT_UNDEFSYM, ext, 0x20, true},
+      {"ext * 1", VT_UNDEFSYM, ext, 0, false}, {"--ext", VT_UNDEFSYM, ext, 0, false},
+      {"~~ext", VT_UNDEFSYM, ext, 0, false}, {"ext | 0", VT_UNDEFSYM, ext, 0, false},
+      {"ext * 0", VT_ICON, nullptr, 0, false}, {"ext & 0", VT_ICON, nullptr, 0, false},
   };
   for (const reloc_case &c : cases) {
     value_record *v = eval(c.text);
@@ -91,37 +78,30 @@ TEST_F(ExprTest, SymbolsWithAnOffsetSplitIntoSymbolAndConstant) {
 
 TEST_F(ExprTest, LocationCounter) {
   label("lab1", scn_a, 0x10);
-  curseg = scn_a;
   curpc = 0x40;
-  value_record *v = eval("$");
-  EXPECT_EQ(v->v_type, VT_SCNREL);
-  EXPECT_EQ(v->v_section, scn_a);
-  EXPECT_EQ(v->v_val, xi_from_int(0x40));
-  E_freeval(v);
-
-  v = eval("$ - lab1");
-  EXPECT_EQ(v->v_type, VT_ICON);
-  EXPECT_EQ(v->v_val, xi_from_int(0x30));
-  E_freeval(v);
-
-  v = eval("lab1 - $ + 8");
-  EXPECT_EQ(v->v_type, VT_ICON);
-  EXPECT_EQ(v->v_val, xi_from_int(-0x28));
-  E_freeval(v);
-
-  // In another section `$` is no constant offset from lab1.
-  curseg = scn_b;
-  v = eval("$ - lab1");
-  EXPECT_TRUE(is_relocatable(v));
-  E_freeval(v);
-
-  // An absolute section gives plain numbers.
-  curseg = scn_abs;
-  v = eval("$ + 2");
-  EXPECT_EQ(v->v_type, VT_ICON);
-  EXPECT_EQ(v->v_section, nullptr);
-  EXPECT_EQ(v->v_val, xi_from_int(0x42));
-  E_freeval(v);
+  struct {
+    section_record *scn;
+    const char *text;
+    uint32_t type;  // 0: relocatable
+    int64_t value;
+  } cases[] = {
+      {scn_a, "$", VT_SCNREL, 0x40},          {scn_a, "$ - lab1", VT_ICON, 0x30},
+      {scn_a, "lab1 - $ + 8", VT_ICON, -0x28}, {scn_b, "$ - lab1", 0, 0},  // no constant across sections
+      {scn_abs, "$ + 2", VT_ICON, 0x42},       // an absolute section gives plain numbers
+  };
+  for (const auto &c : cases) {
+    SCOPED_TRACE(c.text);
+    curseg = c.scn;
+    value_record *v = eval(c.text);
+    if (c.type) {
+      EXPECT_EQ(v->v_type, c.type);
+      EXPECT_EQ(v->v_val, xi_from_i64(c.value));
+      EXPECT_EQ(v->v_section, c.type == VT_SCNREL ? c.scn : nullptr);
+    } else {
+      EXPECT_TRUE(is_relocatable(v));
+    }
+    E_freeval(v);
+  }
   curseg = nullptr;
 }
 
@@ -208,35 +188,25 @@ TEST_F(ExprTest, DotOperatorSelectsMembers) {
   SYM_define(m, &mv);
   m->sym_members = t.z;
 
-  value_record *v = eval("pt.y");
-  EXPECT_EQ(v->v_type, VT_ICON);
-  EXPECT_EQ(v->v_val, xi_from_int(4));
-  EXPECT_EQ(v->v_member, t.y);
-  EXPECT_EQ(v->v_flags, 8);
-  EXPECT_EQ(v->v_symbol, pt);
-  E_freeval(v);
-
-  v = eval("pt.y.z + 1");
-  EXPECT_EQ(v->v_val, xi_from_int(7));
-  EXPECT_EQ(v->v_member, t.z);
-  E_freeval(v);
-
-  v = eval("rec.y");
-  EXPECT_EQ(v->v_type, VT_LABEL);
-  EXPECT_EQ(v->v_val, xi_from_int(0x104));
-  E_freeval(v);
-
-  v = eval("m");
-  EXPECT_EQ(v->v_type, VT_ICON);
-  EXPECT_EQ(v->v_val, xi_from_int(12));
-  E_freeval(v);
-
   label("lab", scn_a, 0x200);
-  v = eval("lab.m.z");
-  EXPECT_EQ(v->v_type, VT_LABEL);
-  EXPECT_EQ(v->v_val, xi_from_int(0x200 + 12 + 2));
-  E_freeval(v);
-  EXPECT_EQ(out, "");
+  struct {
+    const char *text;
+    uint32_t type;
+    int64_t value;
+    const membrec *member;  // null: not checked
+  } good[] = {{"pt.y", VT_ICON, 4, t.y},          {"pt.y.z + 1", VT_ICON, 7, t.z}, {"rec.y", VT_LABEL, 0x104, nullptr},
+              {"m", VT_ICON, 12, nullptr},         {"lab.m.z", VT_LABEL, 0x200 + 12 + 2, nullptr}};
+  for (const auto &c : good) {
+    SCOPED_TRACE(c.text);
+    value_record *v = eval(c.text);
+    EXPECT_EQ(v->v_type, c.type);
+    EXPECT_EQ(v->v_val, xi_from_i64(c.value));
+    if (c.member) {
+      EXPECT_EQ(v->v_member, c.member);
+    }
+    EXPECT_EQ(out, "");
+    E_freeval(v);
+  }
 
   struct dot_case {
     const char *text;
@@ -244,18 +214,16 @@ TEST_F(ExprTest, DotOperatorSelectsMembers) {
     const char *message;
   };
   const dot_case bad[] = {
-      {"pt.w", "E0300", "Structure/union member, w, not found"},
-      {"pt.5", "E0300", "Structure/union member not found"},
-      {"lab.nothing", "E0009", "Missing struct/union member or tag"},
+      {"pt.w", "E0300", "Structure/union member, w, not found"}, {"pt.5", "E0300", "Structure/union member not found"},
       {"lab.5", "E0009", "Illegal struct/union reference dot operator"},
       {"pt.y.(", "E0009", "Illegal struct/union reference dot operator"},
   };
   for (const dot_case &c : bad) {
-    v = eval(c.text);
+    value_record *v = eval(c.text);
     EXPECT_TRUE(shown(out, c.id, c.message)) << c.text << " showed: " << out;
     E_freeval(v);
   }
-  v = eval("pt.w.v");   // only the first failure of a chain is reported
+  value_record *v = eval("pt.w.v");   // only the first failure of a chain is reported
   EXPECT_EQ(num_errors, 1u);
   E_freeval(v);
 }
@@ -269,45 +237,14 @@ TEST_F(ExprTest, RearrangementShapes) {
     const char *tree;
   };
   const shape_case cases[] = {
-      {"x * 2 + 3 + 4", "(+ (* x 2) 7)"},
-      {"3 + x * 2", "(+ (* x 2) 3)"},
-      {"(x + 1) + (y + 2)", "(+ (+ x y) 3)"},
-      {"(x - 1) + (y + 5)", "(+ (+ x y) 4)"},
-      {"(x + 1) + y", "(+ (+ x y) 1)"},
-      {"x + -3", "(- x 3)"},
-      {"x - -3", "(+ x 3)"},
-      {"(x + 5) - 2", "(+ x 3)"},
-      {"(x - 5) - 2", "(- x 7)"},
-      {"(x + 1) - y", "(+ (- x y) 1)"},
-      {"x - (y + 1)", "(- (- x y) 1)"},
-      {"-x + y", "(- y x)"},
-      {"x + -y", "(- x y)"},
-      {"x - -y", "(+ x y)"},
-      {"0 - x", "(- x)"},
-      {"-(x - y)", "(- y x)"},
-      {"-(x * 3)", "(* x -3)"},
-      {"(x * 2) * 3", "(* x 6)"},
-      {"2 * x", "(* x 2)"},
-      {"x * -y", "(- (* x y))"},
-      {"x * (y * 3)", "(* (* x y) 3)"},
-      {"(x + 1) * 4", "(+ (* x 4) 4)"},
-      {"x / 2 / 3", "(/ x 6)"},
-      {"x / 1", "x"},
-      {"(x % 8) % 16", "(% x 8)"},
-      {"(x % 16) % 4", "(% x 4)"},
-      {"x % 1", "0"},
-      {"x << 2 << 3", "(<< x 5)"},
-      {"x >> 1 >> 1", "(>> x 2)"},
-      {"(x * 3) << 2", "(* x 12)"},
-      {"x << 0", "x"},
-      {"0 << x", "0"},
-      {"3 | x | 4", "(| x 7)"},
-      {"x | (y | 1)", "(| (| x y) 1)"},
-      {"x & 0xF0 & 0x3C", "(& x 48)"},
-      {"x ^ -1", "(~ x)"},
-      {"x | -1", "-1"},
-      {"x & -1", "x"},
-      {"~~x", "x"},
+      {"x * 2 + 3 + 4", "(+ (* x 2) 7)"}, {"3 + x * 2", "(+ (* x 2) 3)"}, {"(x + 1) + (y + 2)", "(+ (+ x y) 3)"},
+      {"(x + 1) + y", "(+ (+ x y) 1)"}, {"x + -3", "(- x 3)"}, {"x - -3", "(+ x 3)"}, {"(x + 5) - 2", "(+ x 3)"},
+      {"(x + 1) - y", "(+ (- x y) 1)"}, {"x - (y + 1)", "(- (- x y) 1)"}, {"-x + y", "(- y x)"}, {"x + -y", "(- x y)"},
+      {"0 - x", "(- x)"}, {"-(x - y)", "(- y x)"}, {"-(x * 3)", "(* x -3)"}, {"(x * 2) * 3", "(* x 6)"},
+      {"x * -y", "(- (* x y))"}, {"x * (y * 3)", "(* (* x y) 3)"}, {"(x + 1) * 4", "(+ (* x 4) 4)"},
+      {"x / 2 / 3", "(/ x 6)"}, {"x / 1", "x"}, {"(x % 8) % 16", "(% x 8)"}, {"x % 1", "0"},
+      {"x << 2 << 3", "(<< x 5)"}, {"(x * 3) << 2", "(* x 12)"}, {"x << 0", "x"}, {"3 | x | 4", "(| x 7)"},
+      {"x & 0xF0 & 0x3C", "(& x 48)"}, {"x ^ -1", "(~ x)"}, {"x | -1", "-1"}, {"~~x", "x"},
       {"!x", "0"},   // a relocatable value compares with no constant
   };
   for (const shape_case &c : cases) {

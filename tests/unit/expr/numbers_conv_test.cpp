@@ -24,7 +24,7 @@ void expect_like_host(const std::string &text) {
   EXPECT_EQ(get_ieee_flt_fmt(&v), fbits(f)) << text << " " << show(v);
 }
 
-TEST(Numbers_Conv, DecimalEdgesLikeHost) {
+TEST(Numbers_Conv, EdgesLikeHost) {
   const char *cases[] = {
       "0", "1", "-1", "0.1", "0.5", "2.5", "10", "1e23", "8.5e-5", "123456789012345678901234567890",
       "0.000001", "3.14159265358979323846", "1.5e300", "-2.5e-300", "1e308", "1e-308",
@@ -43,6 +43,11 @@ TEST(Numbers_Conv, DecimalEdgesLikeHost) {
       // leading and trailing zeros, points at the ends
       "000123.4500", "0.000", "-0.0", ".5", "5.", "0.00000000000000000000000000001e29",
       "100000000000000000000000", "1E5", "1e+5", "1.0e-5",
+      // hexadecimal, rounded the same way
+      "0x1.8p1", "0x10", "0xA.8", "-0x1p-2", "0x1p-1074", "0x1.fffffffffffffp1023", "0x1p1024",
+      "0x1.000001p0", "0x1.000003p0", "0x1.00000000000008p0", "0x1.00000000000018p0",
+      "0x1p-1075", "0x1.0000000000001p-1075", "0x1p-149", "0x1p-150", "0x1.8p-150",
+      "0xffffffffffffffffffff", "0x.8", "0X1P4", "0xabcdef.123p-7",
   };
   for (const char *c : cases) expect_like_host(c);
 }
@@ -69,19 +74,6 @@ TEST(Numbers_Conv, ManyValuesLikeHost) {
     std::snprintf(buf, sizeof buf, i % 2 ? "%.9g" : "%.12e", double(f));
     expect_like_host(buf);
   }
-}
-
-TEST(Numbers_Conv, HexadecimalLikeHost) {
-  const char *cases[] = {
-      "0x1.8p1", "0x10", "0xA.8", "-0x1p-2", "0x1p-1074", "0x1.fffffffffffffp1023", "0x1p1024",
-      "0x1.000001p0", "0x1.000003p0", "0x1.00000000000008p0", "0x1.00000000000018p0",
-      "0x1p-1075", "0x1.0000000000001p-1075", "0x1p-149", "0x1p-150", "0x1.8p-150",
-      "0xffffffffffffffffffff", "0x.8", "0X1P4", "0xabcdef.123p-7",
-  };
-  for (const char *c : cases) expect_like_host(c);
-  simul_fval v;
-  EXPECT_EQ(f_atof("0x1.8p1", &v), 0);
-  EXPECT_TRUE(f_eq(&v, &const_dig[3]));
 }
 
 TEST(Numbers_Conv, SpecialTexts) {
@@ -123,19 +115,12 @@ TEST(Numbers_Conv, IeeeRangeErrors) {
     int ret;
     uint32_t fpe;
   } cases[] = {
-      {"1.0", 1, 0x3FF00000, 0, 0, 0},
-      {"1.0", 0, 0x3F800000, 0, 0, 0},
-      {"1e39", 0, 0x7F800000, 0, -1, FPE_OVERFLOW},
-      {"-1e39", 0, 0xFF800000, 0, -1, FPE_OVERFLOW},
-      {"1e-46", 0, 0, 0, -1, FPE_UNDERFLOW},
+      {"1.0", 1, 0x3FF00000, 0, 0, 0}, {"1.0", 0, 0x3F800000, 0, 0, 0}, {"1e39", 0, 0x7F800000, 0, -1, FPE_OVERFLOW},
+      {"-1e39", 0, 0xFF800000, 0, -1, FPE_OVERFLOW}, {"1e-46", 0, 0, 0, -1, FPE_UNDERFLOW},
       {"-1e-46", 0, 0x80000000, 0, -1, FPE_UNDERFLOW},
       {"1e-40", 0, 0x000116C2, 0, 0, 0},  // a denormal is no underflow
-      {"1e309", 1, 0x7FF00000, 0, -1, FPE_OVERFLOW},
-      {"1e-325", 1, 0, 0, -1, FPE_UNDERFLOW},
-      {"5e-324", 1, 0, 1, 0, 0},
-      {"3.4028235e38", 0, 0x7F7FFFFF, 0, 0, 0},
-      {"inf", 0, 0x7F800000, 0, 0, 0},
-      {"nan", 1, 0x7FF80000, 0, 0, 0},
+      {"1e309", 1, 0x7FF00000, 0, -1, FPE_OVERFLOW}, {"1e-325", 1, 0, 0, -1, FPE_UNDERFLOW}, {"5e-324", 1, 0, 1, 0, 0},
+      {"3.4028235e38", 0, 0x7F7FFFFF, 0, 0, 0}, {"inf", 0, 0x7F800000, 0, 0, 0}, {"nan", 1, 0x7FF80000, 0, 0, 0},
   };
   for (auto &c : cases) {
     simul_fval v;
@@ -192,10 +177,6 @@ TEST(Numbers_Conv, IeeeBitsRoundTrip) {
   }
 }
 
-}  // namespace
-
-namespace {
-
 TEST(Numbers_Conv, OddTextStopsCleanly) {
   struct {
     std::string text;
@@ -205,8 +186,7 @@ TEST(Numbers_Conv, OddTextStopsCleanly) {
       {"1.2.3", 1.2},   {"0x", 0},          {"0xp3", 0},      {"2x", 2},
       {"1e99999999999999999999", INFINITY},   {"  7", 7},       {"12abc", 12},
       {std::string(600, '9'), INFINITY},      // 10^600 is finite here, not as a double
-      {"0." + std::string(400, '0') + "1e400", 0.1},
-      {"0x" + std::string(200, 'f'), std::ldexp(1.0, 800)},
+      {"0." + std::string(400, '0') + "1e400", 0.1}, {"0x" + std::string(200, 'f'), std::ldexp(1.0, 800)},
       {"1" + std::string(300, '0'), 1e300},
   };
   for (auto &c : cases) {

@@ -62,67 +62,52 @@ int ref_size(i128 v) {
 
 u128 mag(i128 v) { return v < 0 ? u128(0) - static_cast<u128>(v) : static_cast<u128>(v); }
 
-TEST(Numbers_Int128, AddSubAgainstReference) {
+// Every pair of sample values through the binary operations.
+TEST(Numbers_Int128, PairsAgainstReference) {
   auto vals = sample_values();
   for (i128 a : vals)
     for (i128 b : vals) {
-      INT128 r;
-      u128 ua = static_cast<u128>(a), ub = static_cast<u128>(b);
-      int carry = XI_add(X(a).b, X(b).b, r.b);
-      EXPECT_EQ(V(r), static_cast<i128>(ua + ub)) << hex(a) << " + " << hex(b);
-      EXPECT_EQ(carry, ua + ub < ua ? 1 : 0) << hex(a) << " + " << hex(b);
-      int borrow = XI_sub(X(a).b, X(b).b, r.b);
-      EXPECT_EQ(V(r), static_cast<i128>(ua - ub)) << hex(a) << " - " << hex(b);
-      EXPECT_EQ(borrow, ua < ub ? 1 : 0);
-    }
-}
+      SCOPED_TRACE(hex(a) + " " + hex(b));
+      const INT128 xa = X(a), xb = X(b);
+      const u128 ua = static_cast<u128>(a), ub = static_cast<u128>(b);
+      INT128 r, m;
+      EXPECT_EQ(XI_add(xa.b, xb.b, r.b), ua + ub < ua ? 1 : 0);
+      EXPECT_EQ(V(r), static_cast<i128>(ua + ub));
+      EXPECT_EQ(XI_sub(xa.b, xb.b, r.b), ua < ub ? 1 : 0);
+      EXPECT_EQ(V(r), static_cast<i128>(ua - ub));
 
-TEST(Numbers_Int128, MultiplySaturatesOnOverflow) {
-  auto vals = sample_values();
-  for (i128 a : vals)
-    for (i128 b : vals) {
+      // The product saturates on overflow, by the sign of the exact result.
       u128 p;
-      bool over = __builtin_mul_overflow(mag(a), mag(b), &p);
-      bool differ = (a < 0) != (b < 0);
-      i128 want = over ? (differ ? MINI : MAXI) : static_cast<i128>(differ ? u128(0) - p : p);
-      INT128 r;
-      int ret = XI_mpy(X(a).b, X(b).b, r.b);
-      EXPECT_EQ(V(r), want) << hex(a) << " * " << hex(b);
-      EXPECT_EQ(ret, over ? 1 : 0) << hex(a) << " * " << hex(b);
+      const bool over = __builtin_mul_overflow(mag(a), mag(b), &p), differ = (a < 0) != (b < 0);
+      EXPECT_EQ(XI_mpy(xa.b, xb.b, r.b), over ? 1 : 0);
+      EXPECT_EQ(V(r), over ? (differ ? MINI : MAXI) : static_cast<i128>(differ ? u128(0) - p : p));
+
+      if (b != 0) {  // division truncates; MINI / -1 wraps, as the magnitudes say
+        EXPECT_EQ(XI_div(xa.b, xb.b, r.b), 0);
+        EXPECT_EQ(XI_mod(xa.b, xb.b, m.b), 0);
+        const bool wraps = a == MINI && b == -1;
+        EXPECT_EQ(V(r), wraps ? MINI : a / b);
+        EXPECT_EQ(V(m), wraps ? 0 : a % b);
+      }
+      EXPECT_EQ(XI_cmp(xa.b, xb.b), a < b ? -1 : a > b ? 1 : 0);
+      EXPECT_EQ(XI_lt(xa.b, xb.b), a < b);
+      EXPECT_EQ(XI_ge(xa.b, xb.b), a >= b);
+      XI_and(xa.b, xb.b, r.b);
+      EXPECT_EQ(V(r), a & b);
+      XI_or(xa.b, xb.b, r.b);
+      EXPECT_EQ(V(r), a | b);
+      XI_xor(xa.b, xb.b, r.b);
+      EXPECT_EQ(V(r), a ^ b);
     }
-  // 2^64 * 2^64 is one past the range; a negative factor saturates low.
-  INT128 r;
+  // 2^64 * 2^64 is one past the range; a zero divisor gives the extreme of the sign.
+  INT128 r, m;
   EXPECT_EQ(XI_mpy(X(i128(1) << 64).b, X(i128(1) << 64).b, r.b), 1);
   EXPECT_EQ(V(r), MAXI);
-  EXPECT_EQ(XI_mpy(X(-(i128(1) << 64)).b, X(i128(1) << 64).b, r.b), 1);
-  EXPECT_EQ(V(r), MINI);
-}
-
-TEST(Numbers_Int128, DivideTruncatesAndMarksZeroDivisor) {
-  auto vals = sample_values();
-  for (i128 a : vals)
-    for (i128 b : vals) {
-      if (b == 0) continue;
-      INT128 q, m;
-      EXPECT_EQ(XI_div(X(a).b, X(b).b, q.b), 0);
-      EXPECT_EQ(XI_mod(X(a).b, X(b).b, m.b), 0);
-      if (a == MINI && b == -1) {  // the quotient wraps, as the magnitudes say
-        EXPECT_EQ(V(q), MINI);
-        EXPECT_EQ(V(m), 0);
-        continue;
-      }
-      EXPECT_EQ(V(q), a / b) << hex(a) << " / " << hex(b);
-      EXPECT_EQ(V(m), a % b) << hex(a) << " % " << hex(b);
-    }
-  struct {
-    i128 a;
-    i128 quot;
-  } zero_div[] = {{5, MAXI}, {0, MAXI}, {-5, MINI}, {MINI, MINI}};
+  const i128 zero_div[][2] = {{5, MAXI}, {0, MAXI}, {-5, MINI}, {MINI, MINI}};
   for (auto &c : zero_div) {
-    INT128 q, m;
-    EXPECT_EQ(XI_div(X(c.a).b, xi_zero, q.b), 1);
-    EXPECT_EQ(V(q), c.quot);
-    EXPECT_EQ(XI_mod(X(c.a).b, xi_zero, m.b), 1);
+    EXPECT_EQ(XI_div(X(c[0]).b, xi_zero, r.b), 1);
+    EXPECT_EQ(V(r), c[1]);
+    EXPECT_EQ(XI_mod(X(c[0]).b, xi_zero, m.b), 1);
     EXPECT_EQ(V(m), 0);
   }
 }
@@ -135,19 +120,13 @@ TEST(Numbers_Int128, ShiftLeftLossAndRange) {
     int ret;
     bool err;
   } cases[] = {
-      {1, 0, 1, 0, false},
-      {1, 127, MINI, 0, false},
-      {0x81, 1, 0x102, 0, false},
+      {1, 0, 1, 0, false}, {1, 127, MINI, 0, false}, {0x81, 1, 0x102, 0, false},
       {i128(0x80) << 120, 1, 0, 1, false},  // a bit leaves the top byte
       {i128(0x01) << 120, 8, 0, 0, false},  // a whole byte out is not counted
-      {i128(0x40) << 120, 2, 0, 1, false},
-      {i128(0x40) << 120, 1, MINI, 0, false},
+      {i128(0x40) << 120, 2, 0, 1, false}, {i128(0x40) << 120, 1, MINI, 0, false},
       {i128(0x3) << 112, 15, MINI, 1, false},  // the zero top byte goes whole, 0x03 loses a bit
-      {i128(0x01) << 112, 15, MINI, 0, false},
-      {i128(0x80) << 112, 9, 0, 1, false},
-      {-1, 128, 0, 0, false},
-      {-1, 129, 0, 1, true},
-      {5, 1000, 0, 1, true},
+      {i128(0x01) << 112, 15, MINI, 0, false}, {i128(0x80) << 112, 9, 0, 1, false}, {-1, 128, 0, 0, false},
+      {-1, 129, 0, 1, true}, {5, 1000, 0, 1, true},
       {-8, -2, -2, 1, false},  // a negative count shifts right
   };
   for (auto &c : cases) {
@@ -185,35 +164,19 @@ TEST(Numbers_Int128, ShiftRightIsArithmetic) {
   EXPECT_EQ(V(r), 48);
 }
 
-TEST(Numbers_Int128, SizeCompareAndConversions) {
-  struct {
-    i128 v;
-    int size;
-  } sizes[] = {{0, 1},   {-1, 1},    {1, 1},      {2, 2},       {-2, 2},     {255, 8}, {-128, 8},
-               {-129, 9}, {256, 9}, {MAXI, 127}, {MINI, 128}, {0xFFFFFFFFLL, 32}, {-0x80000000LL, 32}};
-  for (auto &c : sizes) EXPECT_EQ(XI_size(X(c.v).b), c.size) << hex(c.v);
-  auto vals = sample_values();
-  for (i128 a : vals) {
-    EXPECT_EQ(XI_size(X(a).b), ref_size(a)) << hex(a);
-    for (i128 b : vals) {
-      int want = a < b ? -1 : a > b ? 1 : 0;
-      EXPECT_EQ(XI_cmp(X(a).b, X(b).b), want);
-      EXPECT_EQ(XI_lt(X(a).b, X(b).b), a < b);
-      EXPECT_EQ(XI_ge(X(a).b, X(b).b), a >= b);
-      INT128 r;
-      XI_and(X(a).b, X(b).b, r.b);
-      EXPECT_EQ(V(r), a & b);
-      XI_or(X(a).b, X(b).b, r.b);
-      EXPECT_EQ(V(r), a | b);
-      XI_xor(X(a).b, X(b).b, r.b);
-      EXPECT_EQ(V(r), a ^ b);
-    }
+TEST(Numbers_Int128, SizeAndConversions) {
+  const i128 sizes[][2] = {{0, 1},    {-1, 1},   {1, 1},      {2, 2},      {-2, 2},           {255, 8},
+                           {-128, 8}, {-129, 9}, {256, 9},    {MAXI, 127}, {MINI, 128},       {0xFFFFFFFFLL, 32},
+                           {-0x80000000LL, 32}};
+  for (auto &c : sizes) EXPECT_EQ(XI_size(X(c[0]).b), c[1]) << hex(c[0]);
+  for (i128 a : sample_values()) {
+    SCOPED_TRACE(hex(a));
+    EXPECT_EQ(XI_size(X(a).b), ref_size(a));
     INT128 r;
     XI_notb(X(a).b, r.b);
     EXPECT_EQ(V(r), ~a);
     XI_neg(X(a).b, r.b);
     EXPECT_EQ(V(r), static_cast<i128>(u128(0) - static_cast<u128>(a)));
-
     int32_t i32;
     uint32_t u32;
     int64_t i64;
@@ -242,18 +205,9 @@ TEST(Numbers_Int128, ToStringPrintsNeededBytes) {
   struct {
     i128 v;
     const char *text;
-  } cases[] = {
-      {0, "0x00"},
-      {1, "0x01"},
-      {-1, "-0x01"},
-      {255, "0xff"},
-      {256, "0x0100"},
-      {-128, "-0x80"},
-      {-129, "-0x0081"},
-      {0xDEADBEEFLL, "0xdeadbeef"},
-      {MINI, "-0x80000000000000000000000000000000"},
-      {MAXI, "0x7fffffffffffffffffffffffffffffff"},
-  };
+  } cases[] = {{0, "0x00"},      {1, "0x01"},       {-1, "-0x01"},  {255, "0xff"},  {256, "0x0100"},
+               {-128, "-0x80"},  {-129, "-0x0081"}, {0xDEADBEEFLL, "0xdeadbeef"},
+               {MINI, "-0x80000000000000000000000000000000"}, {MAXI, "0x7fffffffffffffffffffffffffffffff"}};
   for (auto &c : cases) {
     EXPECT_EQ(X(c.v).to_string(), c.text);
     std::ostringstream os;

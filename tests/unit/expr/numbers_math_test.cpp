@@ -145,23 +145,4 @@ TEST(Numbers_Text, PrintfFormatsLikeHost) {
   EXPECT_STREQ(buf, "nan %d");
 }
 
-TEST(Numbers_Text, DigitStrings) {
-  char buf[64];
-  int decpt, sign;
-  simul_fval v = S(-1234.5678);
-  EXPECT_STREQ(f_ecvt(&v, 6, &decpt, &sign, buf), "123457");
-  EXPECT_EQ(decpt, 4);
-  EXPECT_EQ(sign, 1);
-  EXPECT_STREQ(f_fcvt(&v, 2, &decpt, &sign, buf), "123457");
-  EXPECT_EQ(decpt, 4);
-  v = S(0.00999);
-  EXPECT_STREQ(f_ecvt(&v, 2, &decpt, &sign, buf), "10");
-  EXPECT_EQ(decpt, -1);
-  v = S(99.99);
-  EXPECT_STREQ(f_ecvt(&v, 3, &decpt, &sign, buf), "100");
-  EXPECT_EQ(decpt, 3);
-  EXPECT_EQ(f_f2ascii(buf, &v, 'e', "", 0, 2), 8);
-  EXPECT_STREQ(buf, "1.00e+02");
-}
-
 }  // namespace

@@ -1,4 +1,5 @@
-// Pending labels, their definition in both passes, and local-label scopes.
+// Pending labels and their definition in both passes; where a label ends up
+// in the object is checked end to end (tests/asm/symbols).
 #include "symbols_fixture.h"
 #include "driver/driver.h"
 #include "support/fhm.h"
@@ -19,50 +20,6 @@ std::vector<std::string> pending_names() {
   std::vector<std::string> out;
   for (pending_label *p = LBL_current; p; p = p->next) out.push_back(p->name);
   return out;
-}
-
-TEST_F(Labels, PendingLabelsTakeTheNextStatementsAddress) {
-  curseg = text_scn;
-  test_line l1(1), l2(2);
-  LBL_save_name("first", &l1);
-  LBL_save_name("second", &l2);
-  EXPECT_NE(l1.flags & LNF_LABEL, 0);
-  EXPECT_EQ(pending_names(), (std::vector<std::string>{"second", "first"}));
-
-  curpc = 12;  // the statement aligned the section first
-  LBL_define();
-  EXPECT_EQ(LBL_current, nullptr);
-  for (const char *n : {"first", "second"}) {
-    symbol_record *s = SYM_query(n);
-    ASSERT_NE(s, nullptr) << n;
-    EXPECT_EQ(s->sym_value.v_type, VT_LABEL);
-    EXPECT_EQ(s->sym_value.v_val, xi_from_int(12));
-    EXPECT_EQ(s->sym_value.v_flags, VF_ADDRESS);
-    EXPECT_EQ(s->sym_value.v_bits, 5);
-    EXPECT_EQ(s->sym_value.v_section, text_scn);
-    EXPECT_EQ(s->sym_value.v_symbol, s);
-    EXPECT_EQ(s->sym_section, text_scn);
-    EXPECT_EQ(s->sym_storage, SYM_STOR_LOCAL);
-  }
-  LBL_define();  // nothing pending: nothing happens
-  EXPECT_EQ(num_errors, 0u);
-}
-
-TEST_F(Labels, SaveTakesTheCurrentToken) {
-  test_line ln;
-  char name[] = "lab";
-  token tk{};
-  tk.kind = TK_IDENT;
-  tk.value.sval = name;
-  tk.line = &ln;
-  curtk = &tk;
-  LBL_save();
-  curtk = nullptr;
-  ASSERT_NE(LBL_current, nullptr);
-  EXPECT_EQ(LBL_current->name, "lab");
-  EXPECT_EQ(LBL_current->line, &ln);
-  EXPECT_NE(ln.flags & LNF_LABEL, 0);
-  LBL_free();
 }
 
 TEST_F(Labels, FlushbufKeepsOnlyThisLinesLabel) {
@@ -97,55 +54,23 @@ TEST_F(Labels, DroppingPendingLabels) {
   EXPECT_EQ(SYM_query("a"), nullptr);
 }
 
-TEST_F(Labels, SecondPassKeepsTheFirstPassValue) {
-  curseg = text_scn;
-  test_line ln;
-  curpc = 8;
-  LBL_save_name("lab", &ln);
-  LBL_define();
-  symbol_record *s = SYM_query("lab");
-  start_pass2();
-  curpc = 8;
-  LBL_save_name("lab", &ln);
-  std::string out = screen([] { LBL_define(); });
-  EXPECT_EQ(out, "");
-  EXPECT_EQ(num_errors, 0u);
-  EXPECT_EQ(s->sym_flags & (SYMF_DECLARED | SYMF_DEFINED), SYMF_DECLARED | SYMF_DEFINED);
-  EXPECT_EQ(s->sym_value.v_val, xi_from_int(8));
-}
-
 TEST_F(Labels, PassConflictIsFatal) {
-  curseg = text_scn;
-  test_line ln;
-  LBL_save_name("moved", &ln);
-  LBL_define();
-  start_pass2();
-  curpc = 2;
-  LBL_save_name("moved", &ln);
-  EXPECT_EXIT(LBL_define(), ::testing::ExitedWithCode(1), "moved defined differently in each pass");
-  LBL_free();
-}
-
-TEST_F(Labels, SectionChangeIsAPassConflict) {
-  curseg = text_scn;
-  test_line ln;
-  LBL_save_name("where", &ln);
-  LBL_define();
-  start_pass2();
-  curseg = data_scn;
-  LBL_save_name("where", &ln);
-  EXPECT_EXIT(LBL_define(), ::testing::ExitedWithCode(1), "where defined differently in each pass");
-  LBL_free();
-}
-
-TEST_F(Labels, LabelOfAnExternalOnlyInPass2) {
-  curseg = text_scn;
-  SYM_global(SYM_find("ext"));
-  start_pass2();
-  test_line ln(9);
-  LBL_save_name("ext", &ln);
-  std::string out = screen([] { LBL_define(); });
-  EXPECT_TRUE(shown(out, "E0300", "ext is operand to both .ref and .def")) << out;
+  // Another address or another section in pass 2.
+  for (bool move_section : {false, true}) {
+    SCOPED_TRACE(move_section);
+    SYM_init();
+    pass1 = 1, pass2 = 0, curpc = 0;
+    curseg = text_scn;
+    test_line ln;
+    LBL_save_name("moved", &ln);
+    LBL_define();
+    start_pass2();
+    if (move_section) curseg = data_scn;
+    else curpc = 2;
+    LBL_save_name("moved", &ln);
+    EXPECT_EXIT(LBL_define(), ::testing::ExitedWithCode(1), "moved defined differently in each pass");
+    LBL_free();
+  }
 }
 
 TEST_F(Labels, KeywordAsLabel) {
