@@ -1,4 +1,5 @@
 // .align, .space and .bes: moving the location counter of the current section.
+#include <algorithm>
 #include <cstdint>
 
 #include "directives/directives.h"
@@ -35,14 +36,17 @@ bool space_size_ok(instruct *ir, const INT128 &n) {
   return true;
 }
 
-// Zeros in pass 2, through the field accumulator a word at a time.
+// Zeros in pass 2: through the field accumulator up to a word boundary,
+// then whole words at once, then the rest.
 void insert_zeros(uint64_t bits) {
   const INT128 zero{};
-  while (bits) {
-    const unsigned chunk = bits > 32 ? 32 : static_cast<unsigned>(bits);
-    SCN_insert_field(chunk, zero, nullptr, 0, false);
-    bits -= chunk;
+  if (const unsigned used = curseg->scn_field_bits % 32) {
+    const auto head = static_cast<unsigned>(std::min<uint64_t>(bits, 32 - used));
+    SCN_insert_field(head, zero, nullptr, 0, false);
+    bits -= head;
   }
+  SCN_insert_zero_words(bits / 32);
+  if (bits % 32) SCN_insert_field(static_cast<unsigned>(bits % 32), zero, nullptr, 0, false);
 }
 
 }  // namespace

@@ -191,6 +191,22 @@ void SCN_emit_raw(unsigned size, uint32_t word) {
   curpc += count;
 }
 
+void SCN_insert_zero_words(uint64_t words) {
+  if (!curseg || words == 0) return;
+  TRG_add_mapping_sym(0);
+  if (curseg->scn_field_bits == 32) write_out_accumulator();
+  if (curseg->scn_field_bits != 0) {
+    error_internal(1, curline, "zero words inserted into a partly filled word");
+    return;
+  }
+  OFE::OF_SECTION *os = curseg->scn_object;
+  os->validate_initialized();
+  DATA_MAP &map = os->raw_data_nocheck();
+  map.set_cursor(map.size());
+  map.write(static_cast<const unsigned char *>(nullptr), static_cast<size_t>(words * 4));
+  curpc += static_cast<uint32_t>(words * 4);
+}
+
 void SCN_dump_field() {
   if (!curseg || curseg->scn_field_bits == 0) return;
   SCN_emit_raw((curseg->scn_field_bits + 7) & ~7u, curseg->scn_field_word);

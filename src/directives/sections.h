@@ -121,6 +121,8 @@ void SCN_insert_field(unsigned bits, const INT128 &value, instruct *ir, int mapp
 void SCN_insert_byte(unsigned byte, int mapping_kind);
 void SCN_align_field(unsigned bits);
 void SCN_emit_raw(unsigned size, uint32_t word);
+// Zero words written at once: the accumulator must be empty or hold a whole word.
+void SCN_insert_zero_words(uint64_t words);
 void SCN_dump_field();
 
 // The fill function of the ARM target: nop patterns of the current state.

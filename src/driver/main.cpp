@@ -4,6 +4,7 @@
 #include <cxxabi.h>
 #include <exception>
 #include <memory>
+#include <new>
 #include <typeinfo>
 #include <unistd.h>
 
@@ -15,6 +16,7 @@
 #include "driver/driver_run.h"
 #include "driver/options.h"
 #include "expr/symbols.h"
+#include "support/memory.h"
 #include "target/arm/jumps.h"
 
 namespace {
@@ -66,6 +68,8 @@ std::string demangled(const char *name) {
 int main(int argc, char **argv) {
   try {
     return run(argc, argv);
+  } catch (const std::bad_alloc &) {
+    out_of_memory();  // a container could not grow: the same end as safemalloc's
   } catch (const std::exception &e) {
     fprintf(stderr, "Unhandled exception of type %s: %s\n\n", demangled(typeid(e).name()).c_str(),
             e.what());
