@@ -10,9 +10,16 @@ b1:     .bes    1
         .byte   0eeh
         .align  4
 w4:     .bes    4
-; SECTION: .data: 00 00 00 ff 00 00 00 00 00 ee 00 00 00 00 00 00
+        .byte   1
+s9:     .space  9               ; from inside a word, over a whole one
+        .byte   0ddh
+b9:     .bes    9
+        .byte   0cch
+; SECTION: .data: 00 00 00 ff 00 00 00 00 00 ee 00 00 00 00 00 00 01 00 00 00 00 00 00 00 00 00 dd 00 00 00 00 00 00 00 00 00 cc
 ; SYMBOL: s1 00000000 0 OBJECT LOCAL HIDDEN .data
 ; SYMBOL: s0 00000003 0 OBJECT LOCAL HIDDEN .data
 ; SYMBOL: b4 00000007 0 OBJECT LOCAL HIDDEN .data
 ; SYMBOL: b1 00000009 0 OBJECT LOCAL HIDDEN .data
 ; SYMBOL: w4 0000000f 0 OBJECT LOCAL HIDDEN .data
+; SYMBOL: s9 00000011 0 OBJECT LOCAL HIDDEN .data
+; SYMBOL: b9 00000023 0 OBJECT LOCAL HIDDEN .data
