@@ -57,7 +57,8 @@ struct name_key {
 struct name_key_hash {
   size_t operator()(const name_key &k) const { return k.full_hash; }
 };
-std::unordered_map<name_key, symbol_record *, name_key_hash> first_of_name;
+// Never destroyed: tearing down a large index at exit is wasted time.
+auto &first_of_name = *new std::unordered_map<name_key, symbol_record *, name_key_hash>;
 
 // The bucket walk shared by SYM_find and SYM_query. `after` receives the
 // last built-in record of equal name that an escaped user search passed.
