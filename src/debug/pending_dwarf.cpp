@@ -9,11 +9,9 @@
 [[gnu::weak]] char orig_src_name[4096];
 [[gnu::weak]] extern const sym_init dwarf_predefs[] = {{nullptr, 0, 0}};
 
-// Asked-for debug information that cannot be made is refused, not dropped.
-[[gnu::weak]] void dw_init() {
-  if (opt_on(OPT_SYMDEBUG_DWARF) || opt_on(OPT_SYMDEBUG_SKELETAL))
-    error_user(nullptr, "E9999", "DWARF debug information is not supported yet");
-}
+// Asked-for debug information that cannot be made is refused by dw_write,
+// once, when the object would be written.
+[[gnu::weak]] void dw_init() {}
 [[gnu::weak]] void dw_cleanup() {}
 
 [[gnu::weak]] void DP_dwtag(instruct *ir) { DIR_parse_not_supported(ir); }
