@@ -1,8 +1,6 @@
 // Interim DWARF directives and editor; the DWARF steps make them real.
 #include "debug/dwarf_directives.h"
 
-#include "driver/diag.h"
-#include "driver/options.h"
 #include "driver/pending.h"
 #include "expr/symbols.h"
 
