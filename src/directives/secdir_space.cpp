@@ -88,7 +88,9 @@ void GD_space(instruct *ir) {
 
   const uint64_t bits = static_cast<uint64_t>(n.to_u32()) * 8;
   const uint32_t first = SCN_address();
-  if (pass1)
+  // After an error no object is written: then a block, however large, only
+  // moves the counter, as in pass 1.
+  if (pass1 || num_errors)
     SCN_space(bits);
   else
     insert_zeros(bits);
