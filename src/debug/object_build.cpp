@@ -66,5 +66,8 @@ void BLD_object() {
     error_user(nullptr, "E1000", "Failed to write object file : %s", assy_obj_name);
     std::exit(1);
   }
+  // The engine reports what it could not represent (a truncated offset, say)
+  // and still writes the file: a flawed object must not pass for a good one.
+  if (num_errors) std::remove(assy_obj_name);
   print_section_sizes();
 }
