@@ -20,7 +20,7 @@ TEST_F(LexerTest, IntegerConstantsInEveryRadixAndSuffix) {
       {"17Q", 017, nullptr, 0, 0, 0},   {"101b", 5, nullptr, 0, 0, 0},     {"0B", 0, nullptr, 0, 0, 0},
       {"99d", 99, nullptr, 0, 0, 0},    {"0d", 0, nullptr, 0, 0, 0},       {"017", 15, nullptr, 0, 0, 0},
       {"0", 0, nullptr, 0, 0, 0},       {"1234567890123", 1234567890123ull, nullptr, 0, 0, 0},
-      {"1f", 0, "Invalid constant specification", 0, 0, 0},
+      {"1f", 0, "Invalid constant", 0, 0, 0},
       {"09", 0, "Invalid octal constant specified", 0, 0, 0},
       {"0b101", 0, "Invalid octal constant specified", 0, 0, 0},
       {"1e5", 0, "Invalid decimal constant specified", 0, 0, 0},
