@@ -57,18 +57,6 @@ const char *isa_and_tool_name();
 void print_tool_and_version(FILE *stream);
 void print_toolversion(FILE *stream);
 
-// One character of text: "\r\n" and a lone '\r' read as '\n', Ctrl-Z is
-// dropped, -1 at the end. Inline because the reader calls it per character.
-inline int text_getc(FILE *fp) {
-  for (;;) {
-    const int c = getc_unlocked(fp);
-    if (c == 26) continue;
-    if (c != '\r') return c == EOF ? -1 : c;
-    const int next = getc_unlocked(fp);
-    if (next != '\n' && next != EOF) ungetc(next, fp);
-    return '\n';
-  }
-}
 int mygetc(FHM_FILE *f);
 char *myfgets(char *buf, short n, FHM_FILE *f);
 int myfputs(const char *s, FHM_FILE *f);

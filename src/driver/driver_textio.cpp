@@ -4,6 +4,23 @@
 #include "driver/driver.h"
 #include "support/fhm.h"
 
+namespace {
+
+// One character of text: "\r\n" and a lone '\r' read as '\n', Ctrl-Z is
+// dropped, -1 at the end.
+int text_getc(FILE *fp) {
+  for (;;) {
+    const int c = getc_unlocked(fp);
+    if (c == 26) continue;
+    if (c != '\r') return c == EOF ? -1 : c;
+    const int next = getc_unlocked(fp);
+    if (next != '\n' && next != EOF) ungetc(next, fp);
+    return '\n';
+  }
+}
+
+}  // namespace
+
 int mygetc(FHM_FILE *f) {
   FILE *fp = f ? f->fp() : nullptr;
   return fp ? text_getc(fp) : -1;

@@ -19,7 +19,7 @@ size_t raw_capacity = 0;
 
 }  // namespace
 
-// The text rules of text_getc on whole lines: Ctrl-Z is dropped, and "\r\n"
+// The text rules of mygetc on whole lines: Ctrl-Z is dropped, and "\r\n"
 // or a lone '\r' ends the line. A lone '\r' inside the raw line puts the
 // file back just behind it, so the next line starts there.
 char *getline(FHM_FILE *f) {
