@@ -61,8 +61,10 @@ void run(instruct *ir, int mode) {
 }  // namespace
 
 void DP_float(instruct *ir) {
+  // Pass 1 counts the elements and doesn't look at their values.
+  operand *(*read)(const dir_parse_state_t &) = pass1 ? DIR_get_counted_oprnd : DIR_get_oprnd;
   while (curtk && curtk->kind != TK_EOL) {
-    operand *op = DIR_get_oprnd({DPS_EXPR | DPS_FLOAT, 64});
+    operand *op = read({DPS_EXPR | DPS_FLOAT, 64});
     if (!op) {
       DIR_skip_to_eol();
       return;

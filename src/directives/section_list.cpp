@@ -130,8 +130,15 @@ void SCN_pop() {
 
 void SCN_reset() {
   for (section_record *s = seglist; s; s = s->scn_next) {
+    const uint32_t pass1_end = s == curseg ? curpc : s->scn_saved_pc;
     s->scn_saved_pc = s->section_start();
-    s->scn_object->raw_data_nocheck().clear();
+    DATA_MAP &contents = s->scn_object->raw_data_nocheck();
+    contents.clear();
+    // Pass 1 sized the section: one buffer instead of repeated doubling.
+    // Only a hint, so a huge reservation is left to the writes themselves.
+    const uint32_t bytes = pass1_end - s->scn_saved_pc;
+    if (s->scn_kind != SCN_KIND_BSS && pass1_end > s->scn_saved_pc && bytes <= (256u << 20))
+      contents.reserve(bytes + 4);
     auto bound = scn_address_set.find(s->name());
     OFE::ELF_SECTION *elf = elf_of(s);
     if (elf && bound != scn_address_set.end()) {

@@ -4,6 +4,7 @@
 
 #include "directives/sections.h"
 #include "driver/diag.h"
+#include "driver/directive_ids.h"
 #include "driver/driver.h"
 #include "driver/pipeline.h"
 #include "expr/int128.h"
@@ -46,18 +47,35 @@ void DP_filename(instruct *ir) {
   skip_to_expected_eol(ir->line);
 }
 
+namespace {
+
+// Directives whose pass 1 counts elements without looking at their values.
+bool counts_elements(int32_t id) {
+  switch (id) {
+    case DIR_STRING: case DIR_BYTE: case DIR_UBYTE: case DIR_HALF: case DIR_UHALF:
+    case DIR_WORD: case DIR_UWORD: case DIR_LONG: case DIR_ULONG:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
 template <unsigned N>
 void DP_icons(instruct *ir) {
   const dir_parse_state_t st{DPS_EXPR | DPS_STRING, N};
+  operand *(*read)(const dir_parse_state_t &) =
+      pass1 && counts_elements(ir->dir()->id) ? DIR_get_counted_oprnd : DIR_get_oprnd;
   // No operand at all: the directive does nothing, and a label stays pending.
-  operand *first = DIR_get_oprnd({st.flags | DPS_OPTIONAL, N});
+  operand *first = read({st.flags | DPS_OPTIONAL, N});
   if (!first && LEX_eol()) return;
   if (first) IR_add_oprnd(ir, 0, first);
   else error(curline, "E0005", "Operand missing");
   DP_comma();
   // Each read moves past the comma it starts at, so the loop always advances.
   while (curtk && curtk->kind != TK_EOL) {
-    IR_add_oprnd(ir, 0, DIR_get_oprnd(st));
+    IR_add_oprnd(ir, 0, read(st));
     DP_comma();
   }
 }

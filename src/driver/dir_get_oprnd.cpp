@@ -255,3 +255,32 @@ operand *DIR_get_oprnd(const dir_parse_state_t &st) {
   }
   return operand_from_value(v);
 }
+
+operand *DIR_get_counted_oprnd(const dir_parse_state_t &st) {
+  const bool floats = (st.flags & DPS_FLOAT) != 0;
+  if (opt_on(OPT_CROSS_REFERENCE) || !curtk || (curtk->kind != TK_COMMA && curtk->kind != IR_DIRECTIVE) ||
+      !LEX_plain_operand_ahead(floats))
+    return DIR_get_oprnd(st);
+  // Nothing reads the values of the constants: they are not converted.
+  LEX_float_values = false;
+  next_token();
+  const bool empty = curtk->kind == TK_COMMA || curtk->kind == TK_EOL;
+  const skim_result got = empty ? skim_result::failed : EXPR_skim(floats);
+  LEX_float_values = true;
+  if (empty) return missing((st.flags & DPS_OPTIONAL) != 0);
+  switch (got) {
+    case skim_result::failed:
+      DIR_skip_to_comma();
+      return nullptr;
+    case skim_result::other:
+      // Only a substitution brings other terms here; in a source that
+      // assembles, pass 2 finds a value, and the size is what counts.
+      DIR_skip_to_comma();
+      break;
+    case skim_result::value:
+      break;
+  }
+  operand *op = new_operand(floats ? OP_FCON : OP_ICON);
+  op->value.v_type = floats ? VT_FCON : VT_ICON;
+  return op;
+}

@@ -52,6 +52,10 @@ instruct *DIR_parse();
 // On entry curtk is the directive name or the comma before the operand; after
 // a successful read it is the comma or the line end behind the operand.
 operand *DIR_get_oprnd(const dir_parse_state_t &state);
+// Pass 1 of a directive whose element sizes don't depend on values: as
+// DIR_get_oprnd, but a plain integer expression is only read for the symbols
+// it names (EXPR_skim) and stands as an integer operand of value 0.
+operand *DIR_get_counted_oprnd(const dir_parse_state_t &state);
 // Consumes a comma; otherwise warns "Comma expected after operand".
 void DIR_skip_comma(instruct *ir);
 // Skips tokens up to the next comma or the line end (curtk is left on it).

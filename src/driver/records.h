@@ -52,6 +52,7 @@ struct token {
   uint8_t llsuffix;
   linebuf *line;
   token *next;
+  char short_text[24];   // sval of a short string points here instead of the heap
 };
 
 struct linebuf {

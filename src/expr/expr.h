@@ -74,6 +74,20 @@ bool E_chktype(value_record *value, const expr_parse_state_t &state);   // false
 
 bool E_opfound(int level);   // curtk is in row `level` of trg_prec_tbl
 
+// What EXPR_skim found.
+enum class skim_result { value, failed, other };
+
+// Reads an expression of integer and character constants (with `floats`,
+// floating constants too), names,
+// parentheses and operators the way E_build does, but only for the symbols
+// it names: each is found and marked referenced as by a term, and no value
+// is built. For pass 1 of directives whose element sizes don't depend on
+// values. `value`: a value would come out; `failed`: E_build would have
+// failed, the message is given and curtk is where the parse stopped;
+// `other`: a term of another kind was met (curtk is on it) and the caller
+// decides. On `value` curtk is the first token behind the expression.
+skim_result EXPR_skim(bool floats);
+
 // Zone-allocated builders.
 value_record *E_newval();
 node *E_newnode();

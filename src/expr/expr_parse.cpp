@@ -5,6 +5,7 @@
 #include "driver/diag.h"
 #include "expr/expr.h"
 #include "expr/expr_internal.h"
+#include "expr/symbols.h"
 #include "source/lexer.h"
 
 const uint16_t trg_prec_tbl[PREC_LEVELS][PREC_ROW] = {
@@ -117,6 +118,45 @@ node *parse_level(int min_level) {
 }
 
 }  // namespace
+
+skim_result EXPR_skim(bool floats) {
+  // Unary operators and parentheses nest in the parser; open ones count.
+  int open = 0;
+  int unary = 0;
+  for (;;) {
+    for (;; next_token()) {
+      if (curtk && curtk->kind == TK_LPAREN) ++open;
+      else if (E_opfound(8)) ++unary;
+      else break;
+      if (open + unary >= MAX_NESTING) {
+        error(curline, "E0007", "Expression nesting is too deep");
+        return skim_result::failed;
+      }
+    }
+    if (!curtk) return skim_result::failed;
+    switch (curtk->kind) {
+      case TK_ICON: case TK_CCON: break;
+      case TK_FCON:
+        if (!floats) return skim_result::other;
+        break;
+      case TK_IDENT:
+        if (curch() == '.') return skim_result::other;  // the structure dot operator
+        SYM_mark_referenced(SYM_find(curtk->value.sval ? curtk->value.sval : ""));
+        break;
+      default:
+        if (E_opfound(9)) return skim_result::other;
+        error(curline, "E0200", "Bad term in expression");
+        return skim_result::failed;
+    }
+    unary = 0;
+    for (next_token(); open > 0 && curtk && curtk->kind == TK_RPAREN; next_token()) --open;
+    if (binary_level() < 0) break;
+    next_token();
+  }
+  if (open == 0) return skim_result::value;
+  error(curline, "E0000", "No matching right parenthesis");
+  return skim_result::failed;
+}
 
 void E_parse_error(const char *id, const char *text) {
   if (parse_reported) return;

@@ -5,7 +5,8 @@
 #include <cstdio>
 #include <cstring>
 #include <strings.h>
-#include <unordered_map>
+#include <string_view>
+#include <vector>
 
 #include "driver/diag.h"
 #include "driver/driver.h"
@@ -49,23 +50,68 @@ normal_name normalise(std::string_view given) {
 // Plain look-ups (not escaped, not built-in) find the first record of the
 // name in its chain. Chains grow long in large sources, so that record is
 // also indexed by name; only SYM_find links records in and SYM_init frees them.
-struct name_key {
-  std::string_view text;  // the record's own sym_name
-  uint32_t full_hash;
-  bool operator==(const name_key &o) const { return text == o.text; }
+// Open addressing in one array: no node per name, and the stored hash is
+// compared before any name.
+class name_index {
+public:
+  symbol_record *find(std::string_view text, uint32_t hash) const {
+    if (slots_.empty()) return nullptr;
+    for (size_t i = home(hash);; i = (i + 1) & mask()) {
+      const slot &sl = slots_[i];
+      if (!sl.record) return nullptr;
+      if (sl.hash == hash && sl.record->sym_name == text) return sl.record;
+    }
+  }
+
+  // The record becomes the first of its name.
+  void put(symbol_record *record) {
+    if ((used_ + 1) * 2 > slots_.size()) grow();
+    slot &sl = probe(record->sym_name, record->sym_hash);
+    if (!sl.record) ++used_;
+    sl = {record->sym_hash, record};
+  }
+
+  void clear() {
+    std::vector<slot>().swap(slots_);
+    used_ = 0;
+  }
+
+private:
+  struct slot {
+    uint32_t hash;
+    symbol_record *record;
+  };
+
+  size_t mask() const { return slots_.size() - 1; }
+  // The stored hash rotates and folds characters; a multiplication spreads
+  // it over the high bits that pick the slot.
+  size_t home(uint32_t hash) const {
+    return static_cast<size_t>((static_cast<uint64_t>(hash) * 0x9E3779B97F4A7C15ull) >> 32) & mask();
+  }
+  slot &probe(std::string_view text, uint32_t hash) {
+    for (size_t i = home(hash);; i = (i + 1) & mask()) {
+      slot &sl = slots_[i];
+      if (!sl.record || (sl.hash == hash && sl.record->sym_name == text)) return sl;
+    }
+  }
+  void grow() {
+    std::vector<slot> old(slots_.empty() ? 1024 : slots_.size() * 2);
+    old.swap(slots_);
+    for (const slot &sl : old)
+      if (sl.record) probe(sl.record->sym_name, sl.hash) = sl;
+  }
+
+  std::vector<slot> slots_;
+  size_t used_ = 0;
 };
-struct name_key_hash {
-  size_t operator()(const name_key &k) const { return k.full_hash; }
-};
-// Never destroyed: tearing down a large index at exit is wasted time.
-auto &first_of_name = *new std::unordered_map<name_key, symbol_record *, name_key_hash>;
+
+name_index first_of_name;
 
 // The bucket walk shared by SYM_find and SYM_query. `after` receives the
 // last built-in record of equal name that an escaped user search passed.
 symbol_record *bucket_match(const normal_name &n, bool builtin, symbol_record **after) {
   if (!n.escaped && !builtin) {
-    auto it = first_of_name.find({n.text, n.full_hash});
-    return it == first_of_name.end() ? nullptr : it->second;
+    return first_of_name.find(n.text, n.full_hash);
   }
   for (symbol_record *s = names[n.bucket()]; s; s = s->sym_next) {
     if (s->sym_hash != n.full_hash || s->sym_name != n.text) continue;
@@ -119,7 +165,7 @@ symbol_record *SYM_find(std::string_view name, bool builtin) {
     symbol_record **link = after ? &after->sym_next : &names[n.bucket()];
     s->sym_next = *link;
     *link = s;
-    if (!after) first_of_name.insert_or_assign(name_key{s->sym_name, s->sym_hash}, s);
+    if (!after) first_of_name.put(s);
   }
   if (xref_wanted(s)) {
     s->sym_xref = new xref_record{s->sym_xref, static_cast<uint16_t>(static_cast<unsigned char>(f_lchar)),

@@ -124,6 +124,7 @@ void float_constant(token *tk, std::string &text) {
   if (chtyp != CH_EOL && (upper_is(ch, 'F') || upper_is(ch, 'L'))) getch();
 
   tk->kind = TK_FCON;
+  if (!LEX_float_values) return;  // value.fval stays null
   auto *f = static_cast<simul_fval *>(safemalloc(sizeof(simul_fval)));
   *f = pos_zero;
   tk->value.fval = f;
@@ -134,6 +135,8 @@ void float_constant(token *tk, std::string &text) {
 }
 
 }  // namespace
+
+bool LEX_float_values = true;
 
 void LEX_const(token *tk) {
   std::string &run = number_buffer();
@@ -197,8 +200,9 @@ void LEX_const(token *tk) {
   tk->length = static_cast<uint16_t>(chpos - start);
 }
 
-int LEX_string(char quote, char **out) {
-  std::string s;
+void LEX_string(char quote, std::string *out) {
+  std::string &s = *out;
+  s.clear();
   for (;;) {
     getch();
     if (chtyp == CH_EOL || ch == '\n') {
@@ -215,17 +219,14 @@ int LEX_string(char quote, char **out) {
     }
     s += ch;
   }
-  *out = LEX_strdup(s);
-  return static_cast<int>(s.size());
 }
 
 void LEX_ccon(token *tk) {
-  char *text = nullptr;
-  const int n = LEX_string('\'', &text);
-  const int used = n < 4 ? n : 4;
+  std::string &text = number_buffer();
+  LEX_string('\'', &text);
+  const size_t used = text.size() < 4 ? text.size() : 4;
   uint32_t v = 0;
-  for (int i = 0; i < used; ++i) v |= static_cast<uint32_t>(static_cast<unsigned char>(text[i])) << (8 * i);
-  std::free(text);
+  for (size_t i = 0; i < used; ++i) v |= static_cast<uint32_t>(static_cast<unsigned char>(text[i])) << (8 * i);
   tk->kind = TK_CCON;
   tk->value.ival = xi_from_uint(v);
   tk->length = static_cast<uint16_t>(used);

@@ -37,8 +37,18 @@ token *LEX_ident(int32_t column) {
     name += '.';
     getch();
   }
-  while (chtyp == CH_ALPHA || chtyp == CH_DIGIT || ch == '\'') {
-    name += ch;
+  // The run of name characters at once, then the reader behind it.
+  if (chtyp == CH_ALPHA || chtyp == CH_DIGIT || ch == '\'') {
+    const auto start = static_cast<uint32_t>(chpos);
+    uint32_t end = start;
+    while (end < inbuf_len) {
+      const char c = inbuf[end];
+      const uint8_t k = LEX_char_class[static_cast<unsigned char>(c)];
+      if (k != CH_ALPHA && k != CH_DIGIT && c != '\'') break;
+      ++end;
+    }
+    name.append(inbuf + start, end - start);
+    chpos = static_cast<int32_t>(end) - 1;
     getch();
   }
 
@@ -81,6 +91,6 @@ token *LEX_ident(int32_t column) {
 
   token *tk = LEX_newtkn(TK_IDENT, column);
   tk->length = static_cast<uint16_t>(name.size());
-  tk->value.sval = LEX_strdup(name);
+  LEX_set_text(tk, name);
   return tk;
 }

@@ -1,12 +1,14 @@
 #pragma once
 // Source lines, characters and tokens.
 //
-// Ownership: token strings (TK_IDENT, TK_SCON, TK_OPCODE_REST) and the
-// simul_fval of a TK_FCON are allocated with malloc and released with free;
-// LEX_droptkn releases a token together with them.
+// Ownership: token strings (TK_IDENT, TK_SCON, TK_OPCODE_REST) are held in
+// the token when short and allocated with malloc otherwise; the simul_fval of
+// a TK_FCON is allocated with malloc. LEX_droptkn releases a token together
+// with them, LEX_release_value only what it owns.
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "driver/records.h"
 
@@ -72,6 +74,14 @@ void ungetch();          // one character back
 void skip_to_nextch();   // over white space, with the rules of nextch
 void skip_to_space();    // over everything up to white space or the line end
 char curch();
+// The text from the current character to the next comma, comment or line
+// end holds only names, integers, character constants 'c', blanks,
+// parentheses and the integer operators (with `floats`, floating constants
+// too), and no token was pushed back: what EXPR_skim reads without a surprise.
+bool LEX_plain_operand_ahead(bool floats);
+// Off while only the kind of floating constants matters: TK_FCON tokens are
+// then made without their value (a null fval).
+extern bool LEX_float_values;
 int curchpos();
 
 // ---- Tokens -------------------------------------------------------------------------
@@ -97,9 +107,13 @@ void LEX_skip_to_eol();
 
 // Reads a number starting at ch (a digit) into tk: TK_ICON, or TK_FCON.
 void LEX_const(token *tk);
-// Reads a string whose opening quote is the current character; *out gets a
-// malloc'd text; the result is its length.
-int LEX_string(char quote, char **out);
+// Reads a string whose opening quote is the current character into *out.
+void LEX_string(char quote, std::string *out);
+// Gives a string token (TK_IDENT, TK_SCON, TK_OPCODE_REST) its text: a
+// short one is held in the token itself, a longer one on the heap.
+void LEX_set_text(token *tk, std::string_view text);
+// Releases what a token owns (its text or floating value) and clears it.
+void LEX_release_value(token *tk);
 
 // Forced substitution of :name: forms on a fresh line.
 void LEX_prescan();

@@ -90,22 +90,24 @@ void lookup_opcode() {
     if (!entry) return;  // a label or an unknown word stays an identifier
     token *rest = LEX_newtkn(TK_OPCODE_REST, curtk->column + static_cast<int32_t>(offset + n));
     rest->line = curtk->line;
-    rest->value.sval = LEX_strdup(base.substr(n));
+    LEX_set_text(rest, std::string_view(base).substr(n));
     rest->length = static_cast<uint16_t>(base.size() - n);
     curtk->length = static_cast<uint16_t>(offset + n);
     unget_token(&rest);
   }
 
+  uint16_t kind = 0;
   switch (entry->kind) {
-    case OPTYPE_DIRECTIVE: curtk->kind = IR_DIRECTIVE; break;
-    case OPTYPE_MNEMONIC: curtk->kind = IR_MNEMONIC; break;
+    case OPTYPE_DIRECTIVE: kind = IR_DIRECTIVE; break;
+    case OPTYPE_MNEMONIC: kind = IR_MNEMONIC; break;
     case OPTYPE_MACRO:
-    case OPTYPE_LIBMACRO: curtk->kind = IR_MACRO; break;
-    case OPTYPE_BUILTIN: curtk->kind = TK_INTRINSIC; break;
+    case OPTYPE_LIBMACRO: kind = IR_MACRO; break;
+    case OPTYPE_BUILTIN: kind = TK_INTRINSIC; break;
     default:
       error_internal(1, curline, "illegal optype");
       return;
   }
-  std::free(curtk->value.sval);
+  LEX_release_value(curtk);
+  curtk->kind = kind;
   curtk->value.op = entry;
 }

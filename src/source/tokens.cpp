@@ -1,6 +1,7 @@
 // Tokens: the token stream, the special characters and the pushed-back list.
 #include <cctype>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 
 #include "driver/diag.h"
@@ -62,7 +63,7 @@ token *bar_identifier(int32_t column) {
   if (LEX_peek(q) != '|' || LEX_peek(q + 1) != '|') return nullptr;
   q += 2;
   token *tk = make(TK_IDENT, column, static_cast<uint16_t>(q - column));
-  tk->value.sval = LEX_strdup(std::string(inbuf + column, static_cast<size_t>(q - column)));
+  LEX_set_text(tk, std::string_view(inbuf + column, static_cast<size_t>(q - column)));
   LEX_setpos(q);
   return tk;
 }
@@ -83,7 +84,10 @@ token *special(int32_t column) {
       return make(TK_NOT, column, 1);
     case '"': {
       token *tk = make(TK_SCON, column, 0);
-      tk->length = static_cast<uint16_t>(LEX_string('"', &tk->value.sval));
+      static std::string text;
+      LEX_string('"', &text);
+      LEX_set_text(tk, text);
+      tk->length = static_cast<uint16_t>(text.size());
       return tk;
     }
     case '\'': {
@@ -200,18 +204,32 @@ void unget_token(token **tk) {
   *tk = nullptr;
 }
 
-void LEX_droptkn(token *tk) {
-  if (!tk) return;
+void LEX_set_text(token *tk, std::string_view text) {
+  char *to = tk->short_text;
+  if (text.size() >= sizeof tk->short_text) to = static_cast<char *>(safemalloc(text.size() + 1));
+  std::memcpy(to, text.data(), text.size());
+  to[text.size()] = '\0';
+  tk->value.sval = to;
+}
+
+void LEX_release_value(token *tk) {
   switch (tk->kind) {
     case TK_IDENT: case TK_SCON: case TK_OPCODE_REST:
-      std::free(tk->value.sval);
+      if (tk->value.sval != tk->short_text) std::free(tk->value.sval);
+      tk->value.sval = nullptr;
       break;
     case TK_FCON:
       std::free(tk->value.fval);
+      tk->value.fval = nullptr;
       break;
     default:
       break;
   }
+}
+
+void LEX_droptkn(token *tk) {
+  if (!tk) return;
+  LEX_release_value(tk);
   tk->next = spare_tokens;
   spare_tokens = tk;
   --LEX_live_tokens;
@@ -225,7 +243,7 @@ token *copy_curtk_for_unget() {
   ++LEX_live_tokens;
   switch (tk->kind) {
     case TK_IDENT: case TK_SCON: case TK_OPCODE_REST:
-      if (tk->value.sval) tk->value.sval = LEX_strdup(tk->value.sval);
+      if (curtk->value.sval) LEX_set_text(tk, curtk->value.sval);
       break;
     case TK_FCON:
       if (tk->value.fval) {
@@ -257,7 +275,7 @@ token *LEX_getfname() {
   }
   curtk = LEX_newtkn(TK_SCON, start);
   curtk->length = static_cast<uint16_t>(name.size());
-  curtk->value.sval = LEX_strdup(name);
+  LEX_set_text(curtk, name);
   return curtk;
 }
 

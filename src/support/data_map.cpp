@@ -252,7 +252,9 @@ unsigned char *DATA_MAP::prepare_write_slow(size_t n)
     uint64_t need = cursor_m + n;
     if (need > mempool_m.size()) {
         // Amortised doubling: sections are written a few bytes at a time.
+        // Within a reserved capacity, doubling past it would copy for nothing.
         uint64_t len = std::max<uint64_t>({need, mempool_m.size() * 2, 64});
+        if (need <= mempool_m.capacity()) len = std::min<uint64_t>(len, mempool_m.capacity());
         mempool_m.resize(len);
     }
     unsigned char *p = mempool_m.data() + cursor_m;

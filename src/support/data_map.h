@@ -69,6 +69,7 @@ public:
     const unsigned char *dptr() const;
     unsigned char *data();                  // byte 0, or null when nothing is held
     const unsigned char *data() const;
+    void reserve(size_t n) { mempool_m.reserve(n); }  // capacity only: nothing is written
     void set_min_bufsize(size_t n);
     void set_min_bufsize(size_t n) const;   // reports when the buffer is short
 
