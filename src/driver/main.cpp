@@ -22,6 +22,7 @@
 namespace {
 
 int run(int argc, char **argv) {
+  prepare_heap();
   signal_init();
   sys_argc = static_cast<int16_t>(argc);
   sys_argv = argv;

@@ -79,8 +79,10 @@ void skip_to_nextch() {
   if (chtyp != CH_SPACE) return;
   // Past a blank the reader is never in the first column, so of the comment
   // rules of nextch only ';' applies, and only to the character that ends the run.
-  do getch();
-  while (chtyp == CH_SPACE);
+  auto i = static_cast<uint32_t>(chpos) + 1;
+  while (i < inbuf_len && LEX_char_class[static_cast<unsigned char>(inbuf[i])] == CH_SPACE) ++i;
+  chpos = static_cast<int32_t>(i) - 1;
+  getch();
   if (chtyp != CH_EOL && ch == ';') LEX_drop_line();
 }
 
@@ -154,12 +156,12 @@ bool LEX_plain_operand_ahead(bool floats) {
 int curchpos() { return chpos; }
 
 char *strupper(char *s) {
-  for (char *p = s; p && *p; ++p) *p = static_cast<char>(std::toupper(static_cast<unsigned char>(*p)));
+  for (char *p = s; p && *p; ++p) *p = LEX_upper(*p);
   return s;
 }
 
 void strupper(std::string &s) {
-  for (char &c : s) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  for (char &c : s) c = LEX_upper(c);
 }
 
 char *strlower(char *s) {

@@ -142,10 +142,11 @@ void LEX_const(token *tk) {
   std::string &run = number_buffer();
   run.clear();
   const int32_t start = chpos;
-  while (chtyp != CH_EOL && is_xdigit(ch)) {
-    run += to_upper(ch);
-    getch();
-  }
+  // ch is a digit: the run of hexadecimal digits at once, then the reader behind it.
+  auto end = static_cast<uint32_t>(start);
+  while (end < inbuf_len && is_xdigit(inbuf[end])) run += to_upper(inbuf[end++]);
+  chpos = static_cast<int32_t>(end) - 1;
+  getch();
   tk->kind = TK_ICON;
   tk->value.ival = INT128{};
 

@@ -120,6 +120,9 @@ void LEX_prescan();
 
 // ---- String utilities (in place) --------------------------------------------------------
 
+// The upper case of the "C" locale, in which the tool runs.
+constexpr char LEX_upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
 char *strupper(char *s);
 char *strlower(char *s);
 char *strip_escape(char *s);   // removes every '|'

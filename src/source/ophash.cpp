@@ -17,7 +17,7 @@ uint32_t hash_full(const std::string &s) {
   const bool fold = opt_on(OPT_SYMS_IGNORE_CASE);
   uint32_t h = 0xFFFFFFFFu;
   for (char c : s) {
-    if (fold) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    if (fold) c = LEX_upper(c);
     h = (h << 7) | (h >> 25);
     h ^= static_cast<uint32_t>(static_cast<int32_t>(static_cast<signed char>(c)));
   }

@@ -41,8 +41,13 @@ char *getline(FHM_FILE *f) {
   }
   auto *buf = static_cast<char *>(safemalloc(end + 2));
   size_t n = 0;
-  for (size_t i = 0; i < end; ++i)
-    if (raw_line[i] != 26) buf[n++] = raw_line[i];
+  if (!std::memchr(raw_line, 26, end)) {
+    std::memcpy(buf, raw_line, end);
+    n = end;
+  } else {
+    for (size_t i = 0; i < end; ++i)
+      if (raw_line[i] != 26) buf[n++] = raw_line[i];
+  }
   if (n == 0 && !ended) {  // only Ctrl-Z before the end of the file
     std::free(buf);
     return nullptr;

@@ -1,7 +1,10 @@
 #include "support/memory.h"
 
 #include <malloc.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
@@ -17,6 +20,31 @@ void out_of_memory()
     fflush(stdout);
     fputs("ERROR: out of memory\n", stderr);
     exit(1);
+}
+
+void prepare_heap()
+{
+#if defined(MADV_HUGEPAGE) && defined(M_MMAP_THRESHOLD) && defined(M_TRIM_THRESHOLD)
+    // Blocks below the mmap threshold come from the break: a few of them move
+    // it far ahead, the range is marked, and freeing them gives it back to the
+    // heap's top without touching it. Only the pages written later are faulted.
+    constexpr size_t block = 30u << 20;   // below the largest mmap threshold
+    constexpr int blocks = 4;
+    if (!mallopt(M_MMAP_THRESHOLD, 32 << 20) || !mallopt(M_TRIM_THRESHOLD, 1 << 30)) return;
+    auto *before = static_cast<char *>(sbrk(0));
+    void *taken[blocks] = {};
+    for (void *&p : taken) p = malloc(block);
+    auto *after = static_cast<char *>(sbrk(0));
+    // Another allocator (a sanitizer's, say) leaves the break alone.
+    if (before != reinterpret_cast<char *>(-1) && after != reinterpret_cast<char *>(-1) &&
+        after - before >= static_cast<ptrdiff_t>(block) * blocks) {
+        constexpr uintptr_t huge = 2u << 20;
+        const uintptr_t from = (reinterpret_cast<uintptr_t>(before) + huge - 1) & ~(huge - 1);
+        const uintptr_t to = reinterpret_cast<uintptr_t>(after) & ~(huge - 1);
+        if (to > from) madvise(reinterpret_cast<void *>(from), to - from, MADV_HUGEPAGE);
+    }
+    for (int i = blocks - 1; i >= 0; --i) free(taken[i]);
+#endif
 }
 
 void *safemalloc(size_t n)

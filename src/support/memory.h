@@ -17,6 +17,11 @@ void *saferealloc(void *p, size_t n);   // null p, or a failed realloc, falls ba
 void *safecalloc(size_t count, size_t n);
 char *safestrdup(const char *s);        // null stays null
 
+// Prepares the heap for a large run: the first megabytes that the heap
+// grows by are backed by huge pages where the system offers them, so that
+// tens of thousands of page faults become a few dozen. Harmless elsewhere.
+void prepare_heap();
+
 // Called instead of the default report-and-exit when set; for tests and for
 // hosts that must clean up first. It must not return.
 using out_of_memory_hook = void (*)();
