@@ -108,6 +108,33 @@ int read_hex(const char *p, simul_fval *r) {
   return ret;
 }
 
+// m * 10^e when that is an integer below 2^64, or an integer below 2^48
+// over a power of two: exact, so no rounding can differ from scale10's, and
+// the common short constants skip its multiplications and divisions.
+bool exact_scale(uint64_t m, long e, simul_fval *r) {
+  if (e >= 0) {
+    for (; e > 0; --e) {
+      if (m > UINT64_MAX / 10) return false;
+      m *= 10;
+    }
+    f_utof(m, r);
+    return true;
+  }
+  const long k = -e;
+  if (k > 27) return false;  // 5^27 is the last power of five below 2^63
+  uint64_t five = 1;
+  for (long i = 0; i < k; ++i) five *= 5;
+  if (m % five != 0) return false;
+  const uint64_t q = m / five;
+  // q / 2^k, with the binary exponent kept a multiple of 16: q is shifted up
+  // to make k a multiple of 16, and the exponent of the integer goes down.
+  const long shift = (16 - k % 16) % 16;
+  if (q >> (48 - shift) != 0) return false;
+  f_utof(q << shift, r);
+  r->exponent -= static_cast<int32_t>(k + shift);
+  return true;
+}
+
 int read_decimal(const char *p, simul_fval *r) {
   if (!pow10_ready) f_rnd_prectbl();
   // The first 19 significant digits are gathered as an integer: below 10^19
@@ -115,6 +142,7 @@ int read_decimal(const char *p, simul_fval *r) {
   constexpr int EXACT_DIGITS = 19;
   uint64_t head = 0;
   int head_digits = 0;
+  bool all_in_head = true;
   simul_fval acc = pos_zero;
   int ret = 0;
   auto push = [&](int d) {
@@ -122,6 +150,7 @@ int read_decimal(const char *p, simul_fval *r) {
       head = head * 10 + static_cast<uint64_t>(d);
       if (++head_digits == EXACT_DIGITS) f_utof(head, &acc);
     } else {
+      all_in_head = false;
       ret |= add_digit(&acc, &const_ten, d);
     }
   };
@@ -162,6 +191,10 @@ int read_decimal(const char *p, simul_fval *r) {
     fp_error |= FPE_OVERFLOW;
     *r = pos_infin;
     return -1;
+  }
+  if (all_in_head && head != 0 && exact_scale(head, exp10, &acc)) {
+    *r = acc;
+    return 0;
   }
   ret |= scale10(&acc, exp10);
   *r = acc;

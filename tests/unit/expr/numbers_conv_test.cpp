@@ -43,6 +43,9 @@ TEST(Numbers_Conv, EdgesLikeHost) {
       // leading and trailing zeros, points at the ends
       "000123.4500", "0.000", "-0.0", ".5", "5.", "0.00000000000000000000000000001e29",
       "100000000000000000000000", "1E5", "1e+5", "1.0e-5",
+      // exact integers and integers over powers of two, to the limits of the shortcut
+      "1.25", "1.125e3", "-1.5e1", "0.0625", "1.8446744073709551615e19", "1.8446744073709551616e19",
+      "7.450580596923828125e-9", "3.0517578125e-5", "1e-27", "2.81474976710655e14", "123e-3",
       // hexadecimal, rounded the same way
       "0x1.8p1", "0x10", "0xA.8", "-0x1p-2", "0x1p-1074", "0x1.fffffffffffffp1023", "0x1p1024",
       "0x1.000001p0", "0x1.000003p0", "0x1.00000000000008p0", "0x1.00000000000018p0",
