@@ -3,6 +3,7 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "driver/diag.h"
 #include "driver/options.h"
@@ -257,29 +258,26 @@ operand *DIR_get_oprnd(const dir_parse_state_t &st) {
 }
 
 operand *DIR_get_counted_oprnd(const dir_parse_state_t &st) {
-  const bool floats = (st.flags & DPS_FLOAT) != 0;
+  static std::vector<plain_token> tokens;
+  uint32_t separator = 0;
   if (opt_on(OPT_CROSS_REFERENCE) || !curtk || (curtk->kind != TK_COMMA && curtk->kind != IR_DIRECTIVE) ||
-      !LEX_plain_operand_ahead(floats))
+      !LEX_plain_operand((st.flags & DPS_FLOAT) != 0, &tokens, &separator))
     return DIR_get_oprnd(st);
-  // Nothing reads the values of the constants: they are not converted.
-  LEX_float_values = false;
-  next_token();
-  const bool empty = curtk->kind == TK_COMMA || curtk->kind == TK_EOL;
-  const skim_result got = empty ? skim_result::failed : EXPR_skim(floats);
-  LEX_float_values = true;
-  if (empty) return missing((st.flags & DPS_OPTIONAL) != 0);
-  switch (got) {
-    case skim_result::failed:
-      DIR_skip_to_comma();
-      return nullptr;
-    case skim_result::other:
-      // Only a substitution brings other terms here; in a source that
-      // assembles, pass 2 finds a value, and the size is what counts.
-      DIR_skip_to_comma();
-      break;
-    case skim_result::value:
-      break;
+  // A substitution symbol would change the text: the lexer has to read it.
+  for (const plain_token &t : tokens) {
+    s_sym *entry = nullptr;
+    if (t.kind == TK_IDENT && subsymtbl.SUBSYM_find(std::string(inbuf + t.start, t.length), &entry) && entry)
+      return DIR_get_oprnd(st);
   }
+  const long used = tokens.empty() ? 0 : EXPR_skim(tokens.data(), tokens.size(), inbuf);
+  // As after DIR_get_oprnd: curtk is the separator, or the first token that
+  // doesn't continue the expression, which the caller deals with.
+  const bool rest = used > 0 && static_cast<size_t>(used) < tokens.size();
+  LEX_resume_at(rest ? tokens[static_cast<size_t>(used)].start : separator);
+  next_token();
+  if (tokens.empty()) return missing((st.flags & DPS_OPTIONAL) != 0);
+  if (used < 0) return nullptr;
+  const bool floats = (st.flags & DPS_FLOAT) != 0;
   operand *op = new_operand(floats ? OP_FCON : OP_ICON);
   op->value.v_type = floats ? VT_FCON : VT_ICON;
   return op;

@@ -1,6 +1,7 @@
 #pragma once
 // Expression engine: tokens to a tree of nodes, folding, reduction to one
 // value_record, and the check of that value against the caller's request.
+#include <cstddef>
 #include <cstdint>
 #include "expr/value.h"
 
@@ -74,19 +75,14 @@ bool E_chktype(value_record *value, const expr_parse_state_t &state);   // false
 
 bool E_opfound(int level);   // curtk is in row `level` of trg_prec_tbl
 
-// What EXPR_skim found.
-enum class skim_result { value, failed, other };
-
-// Reads an expression of integer and character constants (with `floats`,
-// floating constants too), names,
-// parentheses and operators the way E_build does, but only for the symbols
-// it names: each is found and marked referenced as by a term, and no value
-// is built. For pass 1 of directives whose element sizes don't depend on
-// values. `value`: a value would come out; `failed`: E_build would have
-// failed, the message is given and curtk is where the parse stopped;
-// `other`: a term of another kind was met (curtk is on it) and the caller
-// decides. On `value` curtk is the first token behind the expression.
-skim_result EXPR_skim(bool floats);
+struct plain_token;
+// Reads the plain tokens of an operand (LEX_plain_operand) the way E_build
+// would, for the symbols they name alone: each is found and marked referenced
+// as by a term, and no value is built. For pass 1 of directives whose element
+// sizes don't depend on values. The number of tokens that make a complete
+// expression (those behind it are the caller's), or -1 after the message of
+// a failed parse. `text` is the line the tokens stand in.
+long EXPR_skim(const plain_token *tokens, size_t count, const char *text);
 
 // Zone-allocated builders.
 value_record *E_newval();

@@ -119,43 +119,39 @@ node *parse_level(int min_level) {
 
 }  // namespace
 
-skim_result EXPR_skim(bool floats) {
+long EXPR_skim(const plain_token *tokens, size_t count, const char *text) {
+  size_t i = 0;
+  auto kind = [&] { return i < count ? tokens[i].kind : uint16_t{TK_EOL}; };
   // Unary operators and parentheses nest in the parser; open ones count.
   int open = 0;
   int unary = 0;
   for (;;) {
-    for (;; next_token()) {
-      if (curtk && curtk->kind == TK_LPAREN) ++open;
-      else if (E_opfound(8)) ++unary;
+    for (;; ++i) {
+      if (kind() == TK_LPAREN) ++open;
+      else if (kind() == TK_PLUS || kind() == TK_MINUS || kind() == TK_NOT || kind() == TK_NOTB) ++unary;
       else break;
       if (open + unary >= MAX_NESTING) {
         error(curline, "E0007", "Expression nesting is too deep");
-        return skim_result::failed;
+        return -1;
       }
     }
-    if (!curtk) return skim_result::failed;
-    switch (curtk->kind) {
-      case TK_ICON: case TK_CCON: break;
-      case TK_FCON:
-        if (!floats) return skim_result::other;
-        break;
+    switch (kind()) {
+      case TK_ICON: case TK_CCON: case TK_FCON: break;
       case TK_IDENT:
-        if (curch() == '.') return skim_result::other;  // the structure dot operator
-        SYM_mark_referenced(SYM_find(curtk->value.sval ? curtk->value.sval : ""));
+        SYM_mark_referenced(SYM_find(std::string_view(text + tokens[i].start, tokens[i].length)));
         break;
       default:
-        if (E_opfound(9)) return skim_result::other;
         error(curline, "E0200", "Bad term in expression");
-        return skim_result::failed;
+        return -1;
     }
     unary = 0;
-    for (next_token(); open > 0 && curtk && curtk->kind == TK_RPAREN; next_token()) --open;
-    if (binary_level() < 0) break;
-    next_token();
+    for (++i; open > 0 && kind() == TK_RPAREN; ++i) --open;
+    if (kind() >= OPERATOR_KINDS || binary_levels()[kind()] < 0) break;
+    ++i;
   }
-  if (open == 0) return skim_result::value;
+  if (open == 0) return static_cast<long>(i);
   error(curline, "E0000", "No matching right parenthesis");
-  return skim_result::failed;
+  return -1;
 }
 
 void E_parse_error(const char *id, const char *text) {

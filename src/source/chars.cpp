@@ -92,69 +92,6 @@ void skip_to_space() {
 
 char curch() { return ch; }
 
-namespace {
-
-bool name_char(char c) {
-  const uint8_t k = LEX_char_class[static_cast<unsigned char>(c)];
-  return (k == CH_ALPHA && c != '$') || k == CH_DIGIT;
-}
-
-// A floating constant from its first digit at i: digits and letters, '.',
-// digits, an exponent with its sign and a suffix letter. The index behind it.
-uint32_t skip_number(uint32_t i) {
-  auto digit = [](char c) { return LEX_char_class[static_cast<unsigned char>(c)] == CH_DIGIT; };
-  while (i < inbuf_len && name_char(inbuf[i])) ++i;
-  if (i >= inbuf_len || inbuf[i] != '.') return i;
-  for (++i; i < inbuf_len && digit(inbuf[i]);) ++i;
-  if (i < inbuf_len && (inbuf[i] == 'e' || inbuf[i] == 'E')) {
-    ++i;
-    if (i < inbuf_len && (inbuf[i] == '+' || inbuf[i] == '-')) ++i;
-    while (i < inbuf_len && digit(inbuf[i])) ++i;
-  }
-  return i;
-}
-
-}  // namespace
-
-bool LEX_plain_operand_ahead(bool floats) {
-  if (availtkn || !inbuf || chtyp == CH_EOL || chpos < 0) return false;
-  for (auto i = static_cast<uint32_t>(chpos); i < inbuf_len;) {
-    const char c = inbuf[i];
-    if (name_char(c)) {
-      // A floating constant starts with a digit; in a name a dot is the
-      // structure operator, which is not plain.
-      const bool number = LEX_char_class[static_cast<unsigned char>(c)] == CH_DIGIT;
-      i = number && floats ? skip_number(i) : i + 1;
-      while (i < inbuf_len && name_char(inbuf[i])) ++i;
-      if (i < inbuf_len && inbuf[i] == '.') return false;
-      continue;
-    }
-    switch (c) {
-      case ',': case ';': case '\n':
-        return true;
-      case ' ': case '\t': case '+': case '-': case '*': case '/': case '%': case '&':
-      case '^': case '~': case '(': case ')': case '<': case '>': case '=': case '!':
-        ++i;
-        continue;
-      case '|':  // not "||": the parallel bars and bar-quoted names
-        if (i + 1 < inbuf_len && inbuf[i + 1] == '|') return false;
-        ++i;
-        continue;
-      case '\'':
-        if (i + 2 < inbuf_len && inbuf[i + 2] == '\'' && inbuf[i + 1] != '\'' && inbuf[i + 1] != '\\' &&
-            inbuf[i + 1] != '\n') {
-          i += 3;
-          continue;
-        }
-        return false;
-      default:
-        return false;
-    }
-  }
-  return true;
-}
-int curchpos() { return chpos; }
-
 char *strupper(char *s) {
   for (char *p = s; p && *p; ++p) *p = LEX_upper(*p);
   return s;

@@ -124,7 +124,6 @@ void float_constant(token *tk, std::string &text) {
   if (chtyp != CH_EOL && (upper_is(ch, 'F') || upper_is(ch, 'L'))) getch();
 
   tk->kind = TK_FCON;
-  if (!LEX_float_values) return;  // value.fval stays null
   auto *f = static_cast<simul_fval *>(safemalloc(sizeof(simul_fval)));
   *f = pos_zero;
   tk->value.fval = f;
@@ -135,8 +134,6 @@ void float_constant(token *tk, std::string &text) {
 }
 
 }  // namespace
-
-bool LEX_float_values = true;
 
 void LEX_const(token *tk) {
   std::string &run = number_buffer();

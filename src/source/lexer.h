@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "driver/records.h"
 
@@ -74,14 +75,23 @@ void ungetch();          // one character back
 void skip_to_nextch();   // over white space, with the rules of nextch
 void skip_to_space();    // over everything up to white space or the line end
 char curch();
-// The text from the current character to the next comma, comment or line
-// end holds only names, integers, character constants 'c', blanks,
-// parentheses and the integer operators (with `floats`, floating constants
-// too), and no token was pushed back: what EXPR_skim reads without a surprise.
-bool LEX_plain_operand_ahead(bool floats);
-// Off while only the kind of floating constants matters: TK_FCON tokens are
-// then made without their value (a null fval).
-extern bool LEX_float_values;
+// A token of a plain operand, read from the line without a token record:
+// its kind as LEX_tkn would give it, and where it stands in inbuf.
+struct plain_token {
+  uint16_t kind;
+  uint16_t start;
+  uint16_t length;
+};
+// From the current character to the next comma, comment or line end: the
+// tokens that the lexer would make there, when each is plain (a name, a
+// decimal, hexadecimal, octal or binary integer without suffix letters, a
+// character constant 'c', a parenthesis or an operator of expressions; with
+// `floats`, decimal floating constants too) and no token is pushed back.
+// *separator gets the index of the comma, the ';' or the line feed. Nothing
+// is consumed; false when the text holds anything else.
+bool LEX_plain_operand(bool floats, std::vector<plain_token> *out, uint32_t *separator);
+// Puts the reader on index pos of the line, which must hold a character.
+void LEX_resume_at(uint32_t pos);
 int curchpos();
 
 // ---- Tokens -------------------------------------------------------------------------

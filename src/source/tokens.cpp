@@ -46,10 +46,12 @@ token *make(uint16_t kind, int32_t column, uint16_t length) {
   return tk;
 }
 
-// After the first character of an operator: an optional second one.
+// After the first character of an operator: an optional second one. The
+// reader steps on with getch: a ';' right behind an operator is read as the
+// comment token, so the line still ends in TK_EOL.
 bool second(char c) {
   if (ch != c || chtyp == CH_EOL) return false;
-  nextch();
+  getch();
   return true;
 }
 
@@ -79,7 +81,7 @@ token *special(int32_t column) {
   }
   switch (c) {
     case '!':
-      nextch();
+      getch();
       if (second('=')) return make(TK_NE, column, 2);
       return make(TK_NOT, column, 1);
     case '"': {
@@ -98,33 +100,33 @@ token *special(int32_t column) {
     case '#': case '%': case '&': case '(': case ')': case '*': case '+': case ',':
     case '-': case '/': case ':': case '@': case '[': case ']': case '^': case '{':
     case '}': case '~':
-      nextch();
+      getch();
       return make(static_cast<uint16_t>(uc), column, 1);
     case '.':
       if (LEX_classify(LEX_peek(column + 1)) == CH_ALPHA) return LEX_ident(column);
-      nextch();
+      getch();
       return make(TK_DOT, column, 1);
     case ';':
       LEX_drop_line();
       return make(TK_EOL, column, 1);
     case '<':
-      nextch();
+      getch();
       if (second('=')) return make(TK_LE, column, 2);
       if (second('<')) return make(TK_ASHLEFT, column, 2);
       if (second('>')) return make(TK_NE, column, 2);
       return make(TK_LT, column, 1);
     case '=':
-      nextch();
+      getch();
       if (second('=')) return make(TK_EQ, column, 2);
       return make(TK_EQ, column, 1);
     case '>':
-      nextch();
+      getch();
       if (second('=')) return make(TK_GE, column, 2);
       if (second('>')) return make(TK_ASHRIGHT, column, 2);
       return make(TK_GT, column, 1);
     case '|':
       if (token *tk = bar_identifier(column)) return tk;
-      nextch();
+      getch();
       if (second('|')) return make(TK_PARALLEL, column, 2);
       return make(TK_OR, column, 1);
     default:
@@ -263,15 +265,16 @@ bool LEX_eol() { return !curtk || curtk->kind == TK_EOL; }
 token *LEX_getfname() {
   next_token();
   if (curtk->kind == TK_SCON || curtk->kind == TK_EOL || !curtk->line || curtk->line != curline) return curtk;
-  // Unquoted: the raw characters from the token's start up to white space.
+  // Unquoted: the raw characters from the token's start up to white space
+  // or a comment, which is left for the next token: the line ends in TK_EOL.
   const int32_t start = curtk->column;
   LEX_droptkn(curtk);
   chpos = start - 1;
-  nextch();
+  getch();
   std::string name;
-  while (chtyp != CH_SPACE && chtyp != CH_EOL) {
+  while (chtyp != CH_SPACE && chtyp != CH_EOL && ch != ';') {
     name += ch;
-    nextch();
+    getch();
   }
   curtk = LEX_newtkn(TK_SCON, start);
   curtk->length = static_cast<uint16_t>(name.size());
