@@ -65,8 +65,7 @@ ophashtbl *prefix_search(const std::string &base, size_t *length) {
 
 void lookup_opcode() {
   if (!curtk || curtk->kind != TK_IDENT || !curtk->value.sval) return;
-  const std::string word = curtk->value.sval;
-  const std::string name = ual_mode ? ual_translate_name(word) : word;
+  const std::string name = ual_mode ? ual_translate_name(curtk->value.sval) : std::string(curtk->value.sval);
 
   ophashtbl *entry = direct_search(name);
   if (is_mnemonic(entry) && has_type_suffixes(entry)) parse_simd_suffix(entry->mnemonic());

@@ -18,8 +18,7 @@ uint32_t hash_full(const std::string &s) {
   uint32_t h = 0xFFFFFFFFu;
   for (char c : s) {
     if (fold) c = LEX_upper(c);
-    h = (h << 7) | (h >> 25);
-    h ^= static_cast<uint32_t>(static_cast<int32_t>(static_cast<signed char>(c)));
+    h = hash_step(h, c);
   }
   return h;
 }
@@ -48,9 +47,24 @@ void delophash(ophashtbl *entry) {
   }
 }
 
-ophashtbl *findop(std::string name) {
-  strupper(name);
-  for (ophashtbl *e = ophash[hash(name)]; e; e = e->next) {
+ophashtbl *findop(std::string_view given) {
+  // Every statement looks its first word up: the upper case and its hash in
+  // one pass over a short name, without a string of its own.
+  char buffer[64];
+  std::string long_name;
+  char *upper = buffer;
+  if (given.size() > sizeof buffer) {
+    long_name.resize(given.size());
+    upper = long_name.data();
+  }
+  uint32_t h = 0xFFFFFFFFu;
+  for (size_t i = 0; i < given.size(); ++i) {
+    const char c = LEX_upper(given[i]);
+    upper[i] = c;
+    h = hash_step(h, c);
+  }
+  const std::string_view name(upper, given.size());
+  for (ophashtbl *e = ophash[h % HASH_SIZE]; e; e = e->next) {
     if (e->name != name) continue;
     if (e->kind == OPTYPE_MNEMONIC) {
       const auto *row = e->mnemonic();

@@ -2,6 +2,7 @@
 // The opcode hash table: directives, mnemonics, macros and built-in functions by name.
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 struct dir_oprec;
 struct mnemonic_row;
@@ -35,6 +36,10 @@ extern ophashtbl *ophash[HASH_SIZE + 1];
 int hash(const std::string &s);
 // The same hash before its reduction to a bucket: a cheap first test of names.
 uint32_t hash_full(const std::string &s);
+// One character's step of hash_full.
+constexpr uint32_t hash_step(uint32_t h, char c) {
+  return ((h << 7) | (h >> 25)) ^ static_cast<uint32_t>(static_cast<int32_t>(static_cast<signed char>(c)));
+}
 
 // Adds at the head of its bucket, so the youngest entry of a name wins.
 ophashtbl *entophash(ophashtbl *entry);
@@ -44,7 +49,7 @@ ophashtbl *new_ophash(const std::string &name, uint32_t kind, void *row);
 void delophash(ophashtbl *entry);
 // First entry of that name (any case); a mnemonic counts only when its row
 // has an encoding in encode_state.
-ophashtbl *findop(std::string name);
+ophashtbl *findop(std::string_view name);
 
 // Reclassifies curtk when it is a TK_IDENT: directive, mnemonic (with the
 // rest of the word pushed back as TK_OPCODE_REST), macro or built-in.
