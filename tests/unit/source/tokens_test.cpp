@@ -203,3 +203,65 @@ TEST_F(LexerTest, FileNames) {
 }
 
 }  // namespace
+
+// Pass 1 reads plain operands without the lexer: where it accepts a text, its
+// tokens must be the lexer's, and it must refuse what it can't read alike.
+TEST_F(LexerTest, PlainOperandsAreReadAsTheLexerReadsThem) {
+  const struct {
+    const char *text;
+    bool plain;
+    bool floats = false;
+  } cases[] = {
+      {"1 + 2*(x - 0x1F) >> 3, y", true},
+      {"a<=b<>c!=d==e=f>=g<h>i<<j&k|l^~m%n/!o", true},
+      {"0FFh + 17q + 101b + 0X10 + 12 , 7", true},
+      {"'a' + ';' + ',' + '\\' - 'z'; comment", true},
+      {"x$y + _z9", true},
+      {"1.25, -2.5e+1, 3.E2, 7.0e-1", true, true},
+      {"", true},
+      {"   ; only a comment", true},
+      {"1.25", false},          // a float where integers are read
+      {"12u", false},           // suffix letters
+      {"1.5f", false, true},
+      {"1.5e", false, true},    // an exponent without digits
+      {"0x1G", false},
+      {"a.b", false},           // structure dot
+      {"a?", false},            // scoped name
+      {"$1 + 2", false},        // local label
+      {"$", false},
+      {"x'y'", false},          // a quote inside a name
+      {"'ab'", false},
+      {"''''", false},
+      {"\"s\"", false},
+      {"a || b", false},
+      {"[1]", false},
+      {"#3", false},
+      {"1 @ 2", false},
+  };
+  for (const auto &c : cases) {
+    SCOPED_TRACE(c.text);
+    source(std::string(" x ") + c.text + "\n");
+    token *head = get_a_token();  // "x": the reader stands behind it
+    std::vector<plain_token> plain;
+    uint32_t separator = 0;
+    ASSERT_EQ(LEX_plain_operand(c.floats, &plain, &separator), c.plain);
+    if (c.plain) {
+      const char end = inbuf[separator];
+      EXPECT_TRUE(end == ',' || end == ';' || end == '\n');
+      for (const plain_token &p : plain) {
+        token *t = get_a_token();
+        EXPECT_EQ(t->kind, p.kind);
+        EXPECT_EQ(t->column, p.start);
+        // A character constant's length counts its characters, not its text.
+        if (t->kind != TK_CCON) {
+          EXPECT_EQ(t->length, p.length);
+        }
+        LEX_droptkn(t);
+      }
+      token *t = get_a_token();
+      EXPECT_TRUE(t->kind == TK_COMMA || t->kind == TK_EOL) << t->kind;
+      LEX_droptkn(t);
+    }
+    LEX_droptkn(head);
+  }
+}
