@@ -63,13 +63,14 @@ void run(instruct *ir, int mode) {
 void DP_float(instruct *ir) {
   // Pass 1 counts the elements and doesn't look at their values.
   operand *(*read)(const dir_parse_state_t &) = pass1 ? DIR_get_counted_oprnd : DIR_get_oprnd;
+  operand *tail = nullptr;
   while (curtk && curtk->kind != TK_EOL) {
     operand *op = read({DPS_EXPR | DPS_FLOAT, 64});
     if (!op) {
       DIR_skip_to_eol();
       return;
     }
-    IR_add_oprnd(ir, 0, op);
+    IR_append_oprnd(ir, 0, &tail, op);
     if (curtk && curtk->kind != TK_COMMA && curtk->kind != TK_EOL) {
       error(curtk->line ? curtk->line : ir->line, "E0000", "Commas must separate directive elements");
       DIR_skip_to_eol();

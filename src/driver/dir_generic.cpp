@@ -70,12 +70,13 @@ void DP_icons(instruct *ir) {
   // No operand at all: the directive does nothing, and a label stays pending.
   operand *first = read({st.flags | DPS_OPTIONAL, N});
   if (!first && LEX_eol()) return;
-  if (first) IR_add_oprnd(ir, 0, first);
+  operand *tail = nullptr;
+  if (first) IR_append_oprnd(ir, 0, &tail, first);
   else error(curline, "E0005", "Operand missing");
   DP_comma();
   // Each read moves past the comma it starts at, so the loop always advances.
   while (curtk && curtk->kind != TK_EOL) {
-    IR_add_oprnd(ir, 0, read(st));
+    IR_append_oprnd(ir, 0, &tail, read(st));
     DP_comma();
   }
 }

@@ -28,6 +28,10 @@ instruct *IR_alloc(uint16_t kind, const void *record, linebuf *line);
 // Appends `op` to the tail of the slot's list; a null operand is ignored.
 // A null statement or a slot above 9 is an internal error.
 void IR_add_oprnd(instruct *ir, short slot, operand *op);
+// The same for a list that the caller builds from its start: *tail is its
+// last operand (null before the first) and becomes op, so that long lists
+// don't walk to their end for each element. A null op adds nothing.
+void IR_append_oprnd(instruct *ir, short slot, operand **tail, operand *op);
 // Unlinks *op and frees it; *op moves to the next operand, else the previous.
 void IR_rm_oprnd(operand **op);
 // Frees `op` and the operands behind it, with the strings their values own.

@@ -100,6 +100,18 @@ void IR_add_oprnd(instruct *ir, short slot, operand *op) {
   op->prev = tail;
 }
 
+void IR_append_oprnd(instruct *ir, short slot, operand **tail, operand *op) {
+  if (!op) return;
+  if (!*tail || !ir) {
+    IR_add_oprnd(ir, slot, op);
+    if (ir) *tail = op;
+    return;
+  }
+  (*tail)->next = op;
+  op->prev = *tail;
+  *tail = op;
+}
+
 void IR_rm_oprnd(operand **where) {
   if (!where || !*where) return;
   operand *op = *where;
