@@ -173,16 +173,26 @@ void SCN_align_field(unsigned bits) {
   }
 }
 
+namespace {
+
+// The current section's contents, with the cursor behind the last byte.
+DATA_MAP &contents_end() {
+  OFE::OF_SECTION *os = curseg->scn_object;
+  os->validate_initialized();
+  DATA_MAP &map = os->raw_data_nocheck();
+  map.set_cursor(map.size());
+  return map;
+}
+
+}  // namespace
+
 void SCN_emit_raw(unsigned size, uint32_t word) {
   if (size < 8) error_internal(0, curline, "size < TRG_MEM_WIDTH !");
   if (size != 8 && size != 16 && size != 24 && size != 32) {
     error_internal(1, curline, "Can't deal with specified dump size");
     return;
   }
-  OFE::OF_SECTION *os = curseg->scn_object;
-  os->validate_initialized();
-  DATA_MAP &map = os->raw_data_nocheck();
-  map.set_cursor(map.size());
+  DATA_MAP &map = contents_end();
   const unsigned count = size / 8;
   for (unsigned i = 0; i < count; ++i) {
     const unsigned shift = curseg->scn_big_endian ? 24 - 8 * i : 8 * i;
@@ -199,10 +209,7 @@ void SCN_insert_zero_words(uint64_t words) {
     error_internal(1, curline, "zero words inserted into a partly filled word");
     return;
   }
-  OFE::OF_SECTION *os = curseg->scn_object;
-  os->validate_initialized();
-  DATA_MAP &map = os->raw_data_nocheck();
-  map.set_cursor(map.size());
+  DATA_MAP &map = contents_end();
   map.write(static_cast<const unsigned char *>(nullptr), static_cast<size_t>(words * 4));
   curpc += static_cast<uint32_t>(words * 4);
 }

@@ -259,9 +259,10 @@ operand *DIR_get_oprnd(const dir_parse_state_t &st) {
 
 operand *DIR_get_counted_oprnd(const dir_parse_state_t &st) {
   static std::vector<plain_token> tokens;
+  const bool floats = (st.flags & DPS_FLOAT) != 0;
   uint32_t separator = 0;
   if (opt_on(OPT_CROSS_REFERENCE) || !curtk || (curtk->kind != TK_COMMA && curtk->kind != IR_DIRECTIVE) ||
-      !LEX_plain_operand((st.flags & DPS_FLOAT) != 0, &tokens, &separator))
+      !LEX_plain_operand(floats, &tokens, &separator))
     return DIR_get_oprnd(st);
   // A substitution symbol would change the text: the lexer has to read it.
   for (const plain_token &t : tokens) {
@@ -277,7 +278,6 @@ operand *DIR_get_counted_oprnd(const dir_parse_state_t &st) {
   next_token();
   if (tokens.empty()) return missing((st.flags & DPS_OPTIONAL) != 0);
   if (used < 0) return nullptr;
-  const bool floats = (st.flags & DPS_FLOAT) != 0;
   operand *op = new_operand(floats ? OP_FCON : OP_ICON);
   op->value.v_type = floats ? VT_FCON : VT_ICON;
   return op;

@@ -46,6 +46,13 @@ bool parse_reported = false;
 constexpr int MAX_NESTING = 1000;
 int nesting = 0;
 
+// The token kind is in row `level` of trg_prec_tbl.
+bool in_row(int level, uint16_t kind) {
+  for (const uint16_t *tk = trg_prec_tbl[level]; *tk; ++tk)
+    if (*tk == kind) return true;
+  return false;
+}
+
 bool map_operator(uint16_t token, expr_opcode *op) {
   for (const op_row *row = op_table; row->token; ++row) {
     if (row->token == token) {
@@ -128,7 +135,7 @@ long EXPR_skim(const plain_token *tokens, size_t count, const char *text) {
   for (;;) {
     for (;; ++i) {
       if (kind() == TK_LPAREN) ++open;
-      else if (kind() == TK_PLUS || kind() == TK_MINUS || kind() == TK_NOT || kind() == TK_NOTB) ++unary;
+      else if (in_row(8, kind())) ++unary;
       else break;
       if (open + unary >= MAX_NESTING) {
         error(curline, "E0007", "Expression nesting is too deep");
@@ -176,11 +183,7 @@ void E_nest_leave() { --nesting; }
 node *E_level0() { return parse_level(0); }
 
 bool E_opfound(int level) {
-  if (!curtk || level < 0 || level >= PREC_LEVELS) return false;
-  for (const uint16_t *tk = trg_prec_tbl[level]; *tk; ++tk) {
-    if (*tk == curtk->kind) return true;
-  }
-  return false;
+  return curtk && level >= 0 && level < PREC_LEVELS && in_row(level, curtk->kind);
 }
 
 node *E_build(const expr_parse_state_t &) {

@@ -21,15 +21,12 @@ std::string &number_buffer() {
   return buf;
 }
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-bool is_xdigit(char c) { return is_digit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
-char to_upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 bool has_letter(const std::string &s) {
   for (char c : s)
-    if (!is_digit(c)) return true;
+    if (!LEX_is_digit(c)) return true;
   return false;
 }
-int digit_value(char c) { return is_digit(c) ? c - '0' : c - 'A' + 10; }
+int digit_value(char c) { return LEX_is_digit(c) ? c - '0' : c - 'A' + 10; }
 
 // Digits of a power-of-two radix are shifted in; what leaves the top is lost.
 INT128 shift_in(const std::string &digits, int bits) {
@@ -61,7 +58,7 @@ INT128 decimal(const std::string &digits) {
   return v;
 }
 
-bool upper_is(char c, char letter) { return to_upper(c) == letter; }
+bool upper_is(char c, char letter) { return LEX_upper(c) == letter; }
 
 // U, L, UL, LL, LU, ULL and LLU; anything else stays for the next token.
 void integer_suffix(token *tk) {
@@ -141,7 +138,7 @@ void LEX_const(token *tk) {
   const int32_t start = chpos;
   // ch is a digit: the run of hexadecimal digits at once, then the reader behind it.
   auto end = static_cast<uint32_t>(start);
-  while (end < inbuf_len && is_xdigit(inbuf[end])) run += to_upper(inbuf[end++]);
+  while (end < inbuf_len && LEX_is_xdigit(inbuf[end])) run += LEX_upper(inbuf[end++]);
   chpos = static_cast<int32_t>(end) - 1;
   getch();
   tk->kind = TK_ICON;
@@ -154,7 +151,7 @@ void LEX_const(token *tk) {
   }
 
   INT128 v{};
-  const char stop = chtyp == CH_EOL ? ' ' : to_upper(ch);
+  const char stop = chtyp == CH_EOL ? ' ' : LEX_upper(ch);
   if (stop == 'H') {
     getch();
     v = shift_in(run, 4);
@@ -164,8 +161,8 @@ void LEX_const(token *tk) {
   } else if (stop == 'X') {
     getch();
     std::string hex;
-    while (chtyp != CH_EOL && is_xdigit(ch)) {
-      hex += to_upper(ch);
+    while (chtyp != CH_EOL && LEX_is_xdigit(ch)) {
+      hex += LEX_upper(ch);
       getch();
     }
     if (run != "0") error(curline, "E0003", "Invalid hex constant specified");
@@ -183,7 +180,7 @@ void LEX_const(token *tk) {
         error(curline, "E0003", "Invalid octal constant specified");
       else
         v = shift_in(run, 3);
-    } else if (last == 'D' || is_digit(last)) {
+    } else if (last == 'D' || LEX_is_digit(last)) {
       const std::string digits = last == 'D' ? run.substr(0, run.size() - 1) : run;
       if (has_letter(digits))
         error(curline, "E0003", "Invalid decimal constant specified");

@@ -130,8 +130,10 @@ void LEX_prescan();
 
 // ---- String utilities (in place) --------------------------------------------------------
 
-// The upper case of the "C" locale, in which the tool runs.
+// The upper case and the digits of the "C" locale, in which the tool runs.
 constexpr char LEX_upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+constexpr bool LEX_is_digit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool LEX_is_xdigit(char c) { return LEX_is_digit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
 
 char *strupper(char *s);
 char *strlower(char *s);

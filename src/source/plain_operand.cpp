@@ -7,13 +7,10 @@
 namespace {
 
 uint8_t class_of(char c) { return LEX_char_class[static_cast<unsigned char>(c)]; }
-bool is_digit(char c) { return class_of(c) == CH_DIGIT; }
-bool is_xdigit(char c) { return is_digit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
-bool upper_is(char c, char letter) { return LEX_upper(c) == letter; }
 
 // Characters that would continue a name or a number, or change how one is
 // read (a structure dot, a scoped name, a quote inside a name).
-bool joins(char c) { return class_of(c) == CH_ALPHA || is_digit(c) || c == '\'' || c == '.' || c == '?'; }
+bool joins(char c) { return class_of(c) == CH_ALPHA || LEX_is_digit(c) || c == '\'' || c == '.' || c == '?'; }
 
 class reader {
 public:
@@ -34,7 +31,7 @@ public:
       }
       uint32_t end = i;
       uint16_t kind = 0;
-      if (is_digit(c)) kind = number(i, &end);
+      if (LEX_is_digit(c)) kind = number(i, &end);
       else if (class_of(c) == CH_ALPHA && c != '$') kind = name(i, &end);
       else if (c == '\'') kind = character(i, &end);
       else kind = op(i, &end);
@@ -54,25 +51,25 @@ private:
   uint16_t number(uint32_t i, uint32_t *end) const {
     uint32_t j = i;
     bool decimal = true;
-    for (; is_xdigit(at(j)); ++j)
-      if (!is_digit(at(j))) decimal = false;
+    for (; LEX_is_xdigit(at(j)); ++j)
+      if (!LEX_is_digit(at(j))) decimal = false;
     if (at(j) == '.') {
       if (!floats_ || !decimal) return 0;
-      for (++j; is_digit(at(j));) ++j;
-      if (upper_is(at(j), 'E')) {
+      for (++j; LEX_is_digit(at(j));) ++j;
+      if (LEX_upper(at(j)) == 'E') {
         ++j;
         if (at(j) == '+' || at(j) == '-') ++j;
-        if (!is_digit(at(j))) return 0;
-        while (is_digit(at(j))) ++j;
+        if (!LEX_is_digit(at(j))) return 0;
+        while (LEX_is_digit(at(j))) ++j;
       }
       if (joins(at(j))) return 0;
       *end = j;
       return TK_FCON;
     }
-    if (upper_is(at(j), 'H') || upper_is(at(j), 'Q')) {
+    if (LEX_upper(at(j)) == 'H' || LEX_upper(at(j)) == 'Q') {
       ++j;
-    } else if (upper_is(at(j), 'X')) {
-      for (++j; is_xdigit(at(j));) ++j;
+    } else if (LEX_upper(at(j)) == 'X') {
+      for (++j; LEX_is_xdigit(at(j));) ++j;
     }
     if (joins(at(j))) return 0;
     *end = j;
@@ -81,7 +78,7 @@ private:
 
   uint16_t name(uint32_t i, uint32_t *end) const {
     uint32_t j = i;
-    while (class_of(at(j)) == CH_ALPHA || is_digit(at(j))) ++j;
+    while (class_of(at(j)) == CH_ALPHA || LEX_is_digit(at(j))) ++j;
     if (joins(at(j))) return 0;  // '$', a quote, a dot or '?' behind the name
     *end = j;
     return TK_IDENT;
