@@ -2,8 +2,10 @@
 // across word boundaries.
 #include "directives/data_internal.h"
 #include "directives/directives.h"
+#include "directives/secdir_internal.h"
 #include "directives/sections.h"
 #include "driver/diag.h"
+#include "driver/directive_ids.h"
 #include "driver/driver.h"
 #include "driver/pipeline.h"
 #include "expr/symbols.h"
@@ -31,7 +33,14 @@ void field(instruct *ir, bool keep_in_word) {
 
   unsigned width = DEFAULT_WIDTH;
   if (const operand *w = ir->oprnds[1]) {
-    width = w->value.v_val.to_u32();
+    const INT128 &asked = w->value.v_val;
+    // Both passes leave the field out, so the layout stays the same.
+    if (asked < 0) {
+      error(ir->line, "E0004", "%s width must not be negative; found %s", DIR_id(ir) == DIR_BITS ? ".bits" : ".field",
+            DIR_int_text(asked).c_str());
+      return;
+    }
+    width = asked > xi_from_uint(MAX_WIDTH) ? MAX_WIDTH + 1 : asked.to_u32();
     if (width > MAX_WIDTH) {
       warn(ir->line, "W0001", "Field width truncated to %d", static_cast<int>(MAX_WIDTH));
       width = MAX_WIDTH;

@@ -8,6 +8,7 @@
 #include "directives/section_pending.h"
 #include "directives/sections.h"
 #include "driver/diag.h"
+#include "driver/directive_ids.h"
 #include "driver/driver.h"
 #include "driver/options.h"
 #include "driver/pipeline.h"
@@ -54,12 +55,20 @@ bool read_block_size(instruct *ir, const operand *op, block_size *out) {
 
 // Reserves the block in the current (uninitialised) section and defines the
 // pending labels at its start, as far as the alignment lets it. Returns the
-// blocking flag: an alignment operand other than 0.
+// blocking flag: an alignment operand other than 0. A block that would pass
+// the 32-bit address space is refused; its label still gets the location.
 bool reserve_block(instruct *ir, const block_size &size, symbol_record *sym) {
   operand *align = ir->oprnds[2];
   operand *extra = ir->oprnds[3];
-  if (size.tag) curpc = SU_align(curpc, size.tag_align);
   const uint64_t bits = size.bytes * 8;
+  if (size.tag) {
+    // Rounding up past the top of the address space would wrap to 0.
+    const uint32_t aligned = SU_align(curpc, size.tag_align);
+    if (aligned >= curpc)
+      curpc = aligned;
+    else
+      SCN_room(UINT64_MAX);
+  }
   const uint32_t before = curpc;
   const uint32_t before_bits = curseg->scn_field_bits;
   curpc = TRG_usect_align(bits, ir, align, extra);
@@ -67,17 +76,26 @@ bool reserve_block(instruct *ir, const block_size &size, symbol_record *sym) {
   const bool wrapped = curpc < before;
   if (wrapped) curseg->scn_field_bits = 0;
 
-  curpc += size.access;
+  // A full section has reported already.
+  const uint64_t next_bit = uint64_t{curpc} * 8 + curseg->scn_field_bits;
+  const bool fits = !wrapped && !curseg->scn_full && next_bit + bits <= UINT64_C(0xFFFFFFFF) * 8;
+  if (!wrapped && !curseg->scn_full && !fits)
+    error(ir->line, "E0004", "%s size %s goes beyond the 32-bit address space",
+          DIR_id(ir) == DIR_USECT ? ".usect" : ".bss", DIR_int_text(xi_from_uint(size.bytes)).c_str());
+  const uint32_t access = fits ? size.access : 0;
+  curpc += access;
   DIR_list_location(ir, SCN_address());
   LBL_define();
   if (size.members && sym) sym->sym_members = size.members;
 
-  if (!wrapped) {
-    curpc -= size.access;
+  if (fits) {
+    curpc -= access;
     SCN_space(bits);
-  } else {
+  } else if (wrapped) {
     curpc = before;
     curseg->scn_field_bits = before_bits;
+  } else {
+    curpc -= access;
   }
   return blocking;
 }

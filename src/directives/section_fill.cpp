@@ -16,6 +16,8 @@ void (*SCN_trg_align)(unsigned long bits) = ARM_trg_align;
 namespace {
 
 constexpr unsigned long MAX_ALIGN_BITS = 0x40000;  // 32 KiB
+// The end of the last byte that a 32-bit counter can address and pass.
+constexpr uint64_t LIMIT_BITS = UINT64_C(0xFFFFFFFF) * 8;
 
 uint32_t low_mask(unsigned n) { return n >= 32 ? 0xFFFFFFFFu : (1u << n) - 1; }
 
@@ -80,7 +82,7 @@ void SCN_core_align(unsigned long bits, unsigned long fill, void (*fill_function
 
   if (pass1 && !opt_on(OPT_DISABLE_BRANCH_PATCHING) && curseg->scn_jumps.head)
     VLI_addalign(n, gap ? static_cast<int32_t>((gap - f) >> 3) : 0);
-  if (gap == 0) return;
+  if (gap == 0 || !SCN_room(gap - f)) return;
 
   if (pass1 || curseg->scn_kind == SCN_KIND_BSS) {
     advance_counter(gap);
@@ -104,8 +106,21 @@ void SCN_core_align(unsigned long bits, unsigned long fill, void (*fill_function
   }
 }
 
+bool SCN_room(uint64_t bits) {
+  if (!curseg) return false;
+  if (curseg->scn_full) return false;
+  const uint64_t next = static_cast<uint64_t>(curpc) * 8 + curseg->scn_field_bits;
+  if (next <= LIMIT_BITS && bits <= LIMIT_BITS - next) return true;
+  error(curline, "E0004", "Section %s goes beyond the 32-bit address space", curseg->name());
+  curseg->scn_full = 1;
+  curpc = UINT32_C(0xFFFFFFFF);
+  curseg->scn_field_word = 0;
+  curseg->scn_field_bits = 0;
+  return false;
+}
+
 void SCN_space(unsigned long bits) {
-  if (!curseg) return;
+  if (!SCN_room(bits)) return;
   advance_counter(curseg->scn_field_bits + bits);
 }
 
@@ -115,6 +130,7 @@ namespace {
 // of the value, so small fields need no 128-bit arithmetic.
 template <typename Bits>
 void insert_bits(unsigned bits, bool zero, Bits bits_at, instruct *ir, bool swap) {
+  if (!SCN_room(bits)) return;
   if (curseg->scn_field_bits == 32) write_out_accumulator();
   const bool big = big_endian_fields(swap);
   unsigned placed = 0;  // bits taken from the low end (little-endian order)
@@ -165,6 +181,7 @@ void SCN_align_field(unsigned bits) {
   if (!curseg) return;
   const uint32_t used = (curpc * 8 + curseg->scn_field_bits) % 32;
   if (used == 0 || used + bits <= 32) return;
+  if (!SCN_room(32 - used)) return;
   if (pass1) {
     curpc += 4;
     curseg->scn_field_bits = 0;
@@ -202,15 +219,14 @@ void SCN_emit_raw(unsigned size, uint32_t word) {
 }
 
 void SCN_insert_zero_words(uint64_t words) {
-  if (!curseg || words == 0) return;
+  if (!curseg || words == 0 || !SCN_room(words * 32)) return;
   TRG_add_mapping_sym(0);
   if (curseg->scn_field_bits == 32) write_out_accumulator();
   if (curseg->scn_field_bits != 0) {
     error_internal(1, curline, "zero words inserted into a partly filled word");
     return;
   }
-  DATA_MAP &map = contents_end();
-  map.write(static_cast<const unsigned char *>(nullptr), static_cast<size_t>(words * 4));
+  contents_end().zeros_write(words * 4);
   curpc += static_cast<uint32_t>(words * 4);
 }
 

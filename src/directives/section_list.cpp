@@ -151,6 +151,7 @@ void SCN_reset() {
     }
     s->scn_field_word = 0;
     s->scn_field_bits = 0;
+    s->scn_full = 0;
   }
   if (curseg) curpc = curseg->scn_saved_pc;
 }

@@ -70,6 +70,9 @@ struct section_record {
   char *scn_group_name;              // member: name of its COMDAT group (owned)
   uint32_t scn_link_type;            // directive id of .clink/.retain, 0 if none
   section_record *scn_exidx_target;  // .ARM.exidx: the section it describes
+  // Reached the end of the 32-bit address space: the counter stays at the
+  // last byte, and nothing more goes into the section in this pass.
+  uint8_t scn_full;
 
   // Base address: 0 unless --absolute_listing is given and scn_address_set
   // holds the name.
@@ -111,6 +114,10 @@ void SCN_core_align(unsigned long bits, unsigned long fill, void (*fill_function
 // Raises the section's alignment; log2 of the byte alignment.
 int SCN_align_flag(unsigned long bits);
 void SCN_space(unsigned long bits);
+// Whether `bits` more bits fit in the current section below 4 GiB. The first
+// advance that doesn't is reported at the current line and leaves the
+// section full, so both passes agree on every later address.
+bool SCN_room(uint64_t bits);
 // The current address: curpc plus the whole bytes waiting in the accumulator.
 uint32_t SCN_address();
 

@@ -233,7 +233,9 @@ int ELF_SECTION::lock_section()
     if (type_api_m) rc = type_api_m->set_state(OFS_LOCKED);
     if (initialized()) {
         DATA_MAP &d = raw_data_nocheck();
-        d.load();
+        // Held bytes and zero runs are what the save writes; only a map
+        // that stands for a file range is loaded.
+        if (!d.in_memory()) d.load();
         set_sh_size(d.size());
     }
     return rc;

@@ -35,11 +35,17 @@ DATA_MAP &DATA_MAP::operator=(const DATA_MAP &other)
     if (other.file_m && !other.is_modified()) {
         // The file stays the source: take the binding, not the bytes.
         release(mempool_m);
+        zero_runs_m.clear();
+        zero_run_total_m = 0;
         flags_m = other.flags_m & static_cast<uint8_t>(~DM_IN_MEMORY);
         return *this;
     }
     flags_m = other.flags_m;
-    uint64_t held = min64(other.size_m, other.mempool_m.size());
+    zero_runs_m = other.zero_runs_m;
+    zero_run_total_m = other.zero_run_total_m;
+    // With zero runs the mempool holds exactly the bytes between them.
+    uint64_t held = other.zero_runs_m.empty() ? min64(other.size_m, other.mempool_m.size())
+                                              : other.mempool_m.size();
     mempool_m.assign(other.mempool_m.begin(), other.mempool_m.begin() + static_cast<ptrdiff_t>(held));
     return *this;
 }
@@ -50,6 +56,8 @@ DATA_MAP &DATA_MAP::operator=(DATA_MAP &&other) noexcept
 {
     if (this == &other) return *this;
     mempool_m = std::move(other.mempool_m);
+    zero_runs_m = std::move(other.zero_runs_m);
+    zero_run_total_m = other.zero_run_total_m;
     size_m = other.size_m;
     cursor_m = other.cursor_m;
     file_m = other.file_m;
@@ -104,6 +112,8 @@ void DATA_MAP::set_size(uint64_t n)
 void DATA_MAP::set_data(FHM_FILE *f, uint64_t offset, uint64_t size)
 {
     release(mempool_m);
+    zero_runs_m.clear();
+    zero_run_total_m = 0;
     file_m = f;
     file_offset_m = offset;
     size_m = file_size_m = size;
@@ -117,6 +127,8 @@ void DATA_MAP::set_data(const unsigned char *bytes, uint64_t size)
         mempool_m.assign(bytes, bytes + size);
     else
         mempool_m.assign(size, 0);
+    zero_runs_m.clear();
+    zero_run_total_m = 0;
     size_m = size;
     cursor_m = 0;
     file_m = nullptr;
@@ -138,13 +150,19 @@ void DATA_MAP::set_data(const DATA_MAP &src, uint64_t offset, uint64_t size)
 void DATA_MAP::clear()
 {
     release(mempool_m);
+    zero_runs_m.clear();
+    zero_run_total_m = 0;
     size_m = cursor_m = 0;
     file_m = nullptr;
     file_offset_m = file_size_m = 0;
     flags_m = DM_IN_MEMORY | (flags_m & DM_BIG_ENDIAN);
 }
 
-void DATA_MAP::load() const { load_buffer_into_mem(); }
+void DATA_MAP::load() const
+{
+    load_buffer_into_mem();
+    if (flags_m & DM_ZERO_RUNS) flatten();
+}
 
 void DATA_MAP::load_buffer_into_mem() const
 {
@@ -174,7 +192,9 @@ void DATA_MAP::unload()
     // Without a file the bytes exist nowhere else, so they stay.
     if (!file_m) return;
     release(mempool_m);
-    flags_m &= static_cast<uint8_t>(~(DM_IN_MEMORY | DM_MODIFIED));
+    zero_runs_m.clear();
+    zero_run_total_m = 0;
+    flags_m &= static_cast<uint8_t>(~(DM_IN_MEMORY | DM_MODIFIED | DM_ZERO_RUNS));
 }
 
 unsigned char *DATA_MAP::dptr()
@@ -217,37 +237,12 @@ void DATA_MAP::set_min_bufsize(size_t n) const
                          static_cast<const void *>(this), mempool_m.size());
 }
 
-int DATA_MAP::save_data(FHM_FILE *f, uint64_t n) const
-{
-    if (n == 0) return 0;
-    load();   // before taking the handle: loading may touch other files
-    FILE *fp = f ? f->fp() : nullptr;
-    if (!fp) {
-        support_apperror("DATA_MAP::save_data: no file to write %llu bytes to",
-                         static_cast<unsigned long long>(n));
-        return -1;
-    }
-    return save_data(fp, n);
-}
-
-int DATA_MAP::save_data(FILE *f, uint64_t n) const
-{
-    if (n == 0) return 0;
-    load();
-    uint64_t end = min64(size_m, mempool_m.size());
-    uint64_t held = cursor_m < end ? min64(n, end - cursor_m) : 0;
-    int result = 0;
-    if (held && pfwrite(mempool_m.data() + cursor_m, 1, held, f) != held) result = -1;
-    for (uint64_t i = held; i < n && result == 0; ++i)
-        if (fputc(0, f) == EOF) result = -1;
-    cursor_m += n;
-    return result;
-}
-
 // ---- writes ----------------------------------------------------------------
 
 unsigned char *DATA_MAP::prepare_write_slow(size_t n)
 {
+    if ((flags_m & (DM_IN_MEMORY | DM_ZERO_RUNS)) == (DM_IN_MEMORY | DM_ZERO_RUNS) && cursor_m == size_m)
+        return append_behind_runs(n);
     load();
     uint64_t need = cursor_m + n;
     if (need > mempool_m.size()) {

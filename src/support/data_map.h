@@ -1,6 +1,8 @@
 #pragma once
 // DATA_MAP: growable byte buffer with a cursor and a target byte order, held
-// in memory or standing lazily for a range of a managed file.
+// in memory or standing lazily for a range of a managed file. Long runs of
+// zeros appended at the end are kept as runs, not bytes, until something
+// needs the data in one piece.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -17,7 +19,11 @@ public:
         DM_MODIFIED = 2,    // written since it was bound
         DM_BOUND = 4,       // data came from a set_data form
         DM_BIG_ENDIAN = 8,  // multi-byte fields are big-endian
+        DM_ZERO_RUNS = 16,  // zero runs stand outside the mempool
     };
+
+    // Zero runs shorter than this are written as bytes.
+    static constexpr uint64_t ZERO_RUN_MIN = 4096;
 
     // Encoded bytes of one LEB128 number, as found at the cursor.
     struct LEB128_RAW {
@@ -101,6 +107,10 @@ public:
     static unsigned SLEB128_size(int value);
 
     void string_write(const char *s);        // with its NUL; null writes just a NUL
+    // n zero bytes at the cursor; at the end of the data a long run is only
+    // counted, and costs no memory until the data are needed in one piece.
+    void zeros_write(uint64_t n);
+    uint64_t zero_run_bytes() const { return zero_run_total_m; }
 
     // ---- reads at the cursor (past the end: 0, cursor still moves) ----
     uint64_t UINT_read(unsigned n) const;
@@ -164,7 +174,7 @@ private:
     // Capacity check and bookkeeping of a write of n bytes at the cursor;
     // returns where the bytes go.
     unsigned char *prepare_write(size_t n) {
-        if ((flags_m & DM_IN_MEMORY) && cursor_m + n <= mempool_m.size()) {
+        if ((flags_m & (DM_IN_MEMORY | DM_ZERO_RUNS)) == DM_IN_MEMORY && cursor_m + n <= mempool_m.size()) {
             unsigned char *p = mempool_m.data() + cursor_m;
             cursor_m += n;
             if (cursor_m > size_m) size_m = cursor_m;
@@ -174,11 +184,23 @@ private:
         return prepare_write_slow(n);
     }
     unsigned char *prepare_write_slow(size_t n);
-    void load_buffer_into_mem() const;
+    unsigned char *append_behind_runs(size_t n);
+    void load_buffer_into_mem() const;   // from the file; zero runs stay
+    void flatten() const;                // zero runs become bytes
+    int save_runs(FILE *f, uint64_t n) const;
     // Bytes [cursor, cursor+n) when they are all within the data, else null.
     const unsigned char *read_span(size_t n) const;
 
+    // A run of zero bytes at `at` in the data, not held in the mempool; the
+    // mempool then holds only the bytes between and after the runs.
+    struct ZERO_RUN {
+        uint64_t at;
+        uint64_t len;
+    };
+
     mutable std::vector<unsigned char> mempool_m;
+    mutable std::vector<ZERO_RUN> zero_runs_m;
+    mutable uint64_t zero_run_total_m = 0;
     uint64_t size_m = 0;
     mutable uint64_t cursor_m = 0;
     FHM_FILE *file_m = nullptr;

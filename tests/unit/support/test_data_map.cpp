@@ -364,4 +364,70 @@ TEST_F(DataMapFile, SaveAndRebind)
     fhm_close(r);
 }
 
+// Zero runs: counted, not held; saved as zeros between the held bytes; any
+// access that needs the data in one piece makes them bytes once.
+TEST_F(DataMapFile, ZeroRuns)
+{
+    const uint64_t run = 3 * DATA_MAP::ZERO_RUN_MIN;
+    DATA_MAP m;
+    m.set_endian(DATA_MAP::ENDIAN_BIG);
+    m.UINT16_write(0x0102);
+    m.zeros_write(run);
+    m.UINT8_write(3);
+    m.zeros_write(run);
+    m.zeros_write(run);          // joins the run before it
+    m.zeros_write(5);            // short: written as bytes
+    m.UINT8_write(4);
+    m.zeros_write(run);          // ends the data
+    const uint64_t size = 2 + run + 1 + 2 * run + 5 + 1 + run;
+    EXPECT_EQ(m.size(), size);
+    EXPECT_EQ(m.cursor(), size);
+    EXPECT_EQ(m.zero_run_bytes(), 4 * run);
+    EXPECT_TRUE(m.is_modified());
+
+    // A copy keeps the runs; a move takes them.
+    DATA_MAP copy = m;
+    EXPECT_EQ(copy.zero_run_bytes(), 4 * run);
+    DATA_MAP moved = std::move(copy);
+    EXPECT_EQ(moved.zero_run_bytes(), 4 * run);
+
+    std::string out = dir + "/runs.bin";
+    FHM_FILE *f = fhm_open(out.c_str(), "w+b");
+    ASSERT_NE(f, nullptr);
+    m.set_cursor(1);             // from inside the held bytes, and past the end
+    EXPECT_EQ(m.save_data(f, size + 2), 0);
+    EXPECT_EQ(m.zero_run_bytes(), 4 * run);   // saving needs no flat copy
+    fhm_close(f);
+    std::ifstream in(out, std::ios::binary);
+    std::stringstream ss;
+    ss << in.rdbuf();
+    std::string want(size + 2, '\0');
+    want[0] = 0x02;
+    want[1 + run] = 3;
+    want[1 + run + 1 + 2 * run + 5] = 4;
+    EXPECT_TRUE(ss.str() == want);
+
+    // Reads and writes inside the data flatten it.
+    std::vector<unsigned char> flat(size, 0);
+    flat[0] = 1;
+    flat[1] = 2;
+    flat[2 + run] = 3;
+    flat[2 + run + 1 + 2 * run + 5] = 4;
+    EXPECT_EQ(bytes_of(moved), flat);
+    EXPECT_EQ(moved.zero_run_bytes(), 0u);
+    EXPECT_TRUE(moved == m);
+    m.set_cursor(2 + run);
+    EXPECT_EQ(m.UINT8_read(), 3u);
+    EXPECT_EQ(m.zero_run_bytes(), 0u);
+    m.set_cursor(size);
+    m.UINT8_write(9);            // the hot path is open again
+    EXPECT_EQ(m.size(), size + 1);
+
+    EXPECT_FALSE(m.contains_all_zeroes());
+    DATA_MAP zeros;
+    zeros.zeros_write(run);
+    EXPECT_TRUE(zeros.contains_all_zeroes());
+    EXPECT_EQ(zeros.size(), run);
+}
+
 }  // namespace
