@@ -215,6 +215,13 @@ int ELF_FILE::format_elf_file()
     uint64_t offset = e_ehsize();
     t->format_sections(offset);
     t->format_section_headers(offset);
+    // Offsets of the 32-bit class would wrap, and later parts of the file
+    // would overwrite earlier ones.
+    if (format_class() == OFC_32 && offset > UINT32_MAX) {
+        set_error(OFERR_TRUNCATED, "the object file would be %llu bytes, more than a 32-bit ELF file can address",
+                  static_cast<unsigned long long>(offset));
+        return -1;
+    }
     if (t->set_state(OFS_FORMATTED) != 0) return -1;
     set_e_phoff(0);
     set_e_shoff(t->scnnum() ? t->file_offset() : 0);

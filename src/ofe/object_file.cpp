@@ -123,6 +123,7 @@ void OBJECT_FILE::set_error(OF_ERROR_CODE code, const char *format, ...)
 
 void OBJECT_FILE::vset_error(OF_ERROR_CODE code, const char *format, va_list ap)
 {
+    if (code != OFERR_NONE) ++error_count_m;
     if (error_code_m != OFERR_NONE && handler_m) handler_m(this, error_code_m, error_msg_m);
     if (error_code_m != OFERR_NONE) {
         // Keep the more serious pending error; repeats of soft ones add nothing.

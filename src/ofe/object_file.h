@@ -76,6 +76,8 @@ public:
     void vset_error(OF_ERROR_CODE code, const char *format, va_list ap);
     OF_ERROR_CODE error_code() const { return error_code_m; }
     const char *error_message() const { return error_msg_m; }
+    // How many errors were set so far, reported or not.
+    unsigned error_count() const { return error_count_m; }
     void clear_error();
     // Installs the handler; an error already pending is handed to it at once.
     void set_error_handler(OF_ERROR_HANDLER handler);
@@ -113,6 +115,7 @@ private:
     std::string name_m;
     OF_ENDIAN host_endian_m;
     OF_ERROR_CODE error_code_m = OFERR_NONE;
+    unsigned error_count_m = 0;
     const char *error_msg_m = "";
     OF_ERROR_HANDLER handler_m = nullptr;
     std::shared_ptr<const OF_RELOC_TYPE_TABLE> reloc_types_m;

@@ -60,8 +60,10 @@ int OF_STATE_MACHINE::set_state(OF_STATE s)
     // The stored state moves only once every step has succeeded, so that
     // the object still reads as open while it is being locked.
     for (int next = state_m + 1; next <= s; ++next) {
+        // A step that said what went wrong needs no second, vaguer message.
+        const unsigned errors = ofile_m ? ofile_m->error_count() : 0;
         if (progress_to_state(static_cast<OF_STATE>(next)) != 0) {
-            if (ofile_m)
+            if (ofile_m && ofile_m->error_count() == errors)
                 ofile_m->set_error(OFERR_INTERNAL,
                                    "an error was encountered while progressing an OBJECT_FILE "
                                    "object from the %s to the %s state",

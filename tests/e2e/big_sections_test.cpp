@@ -257,4 +257,16 @@ TEST_F(BigSections, ReservationsUpToTheLastByteAreAccepted) {
   EXPECT_EQ(all.at(".bss").type, 8u);   // SHT_NOBITS
 }
 
+TEST_F(BigSections, ObjectThatWouldPassFourGigabytesIsNotWritten) {
+  // Each section fits, but the file offsets behind them would wrap.
+  const Outcome r = assemble("\t.data\n\t.word 1\n\t.space 0xFFFFFF00\n\t.word 2\n");
+  EXPECT_EQ(r.status, 1);
+  EXPECT_NE(flat(r.err).find("[E1500] value truncated: the object file would be 42949676"), std::string::npos)
+      << r.err;
+  EXPECT_NE(flat(r.err).find("bytes, more than a 32-bit ELF file can address"), std::string::npos) << r.err;
+  EXPECT_EQ(r.err.find("INTERNAL"), std::string::npos) << r.err;
+  EXPECT_FALSE(fs::exists(path("t.o")));
+  EXPECT_LT(r.max_rss_kib, 96 * 1024);
+}
+
 }  // namespace
