@@ -67,7 +67,7 @@ bool reserve_block(instruct *ir, const block_size &size, symbol_record *sym) {
     if (aligned >= curpc)
       curpc = aligned;
     else
-      SCN_room(UINT64_MAX);
+      SCN_room(UINT64_MAX);   // reports, and leaves the section full
   }
   const uint32_t before = curpc;
   const uint32_t before_bits = curseg->scn_field_bits;
@@ -88,14 +88,12 @@ bool reserve_block(instruct *ir, const block_size &size, symbol_record *sym) {
   LBL_define();
   if (size.members && sym) sym->sym_members = size.members;
 
+  curpc -= access;
   if (fits) {
-    curpc -= access;
     SCN_space(bits);
   } else if (wrapped) {
     curpc = before;
     curseg->scn_field_bits = before_bits;
-  } else {
-    curpc -= access;
   }
   return blocking;
 }
