@@ -97,16 +97,15 @@ void GD_space(instruct *ir) {
   else
     insert_zeros(bits);
   // The last reserved byte: the next free bit rounded down to a byte, or
-  // one byte less when the block ended on a byte boundary. An empty block at
-  // the start of the section has no byte before it: 0, not a wrap to 4 GiB.
+  // one byte less when the block ended on a byte boundary.
   const uint64_t next_bit = static_cast<uint64_t>(curpc) * 8 + curseg->scn_field_bits;
-  const uint32_t last = static_cast<uint32_t>(next_bit % 8 || next_bit == 0 ? next_bit / 8 : next_bit / 8 - 1);
+  const uint32_t last = static_cast<uint32_t>(next_bit % 8 ? next_bit / 8 : next_bit / 8 - 1);
   DIR_list_location(ir, bes ? last : first);
 
   if (!bes) return;
   // From a word boundary the label names the last reserved byte; otherwise
   // the next free one.
-  if ((curseg->scn_field_bits == 0 || curseg->scn_field_bits == 32) && curpc != 0) {
+  if (curseg->scn_field_bits == 0 || curseg->scn_field_bits == 32) {
     --curpc;
     LBL_define();
     ++curpc;
