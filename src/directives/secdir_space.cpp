@@ -1,6 +1,5 @@
 // .align, .space and .bes: moving the location counter of the current section.
 #include <algorithm>
-#include <bit>
 #include <cstdint>
 
 #include "directives/directives.h"
@@ -63,13 +62,12 @@ void DP_space(instruct *ir) {
 }
 
 void GD_align(instruct *ir) {
-  // Read in full: the low 32 bits of 0x100000004 would ask for 4 bytes.
-  int64_t n = ir->oprnds[0] ? DIR_opnd_i64(ir->oprnds[0]) : 4;
-  int log2 = n > 0 && (n & (n - 1)) == 0 ? std::countr_zero(static_cast<uint64_t>(n)) : -1;
+  int32_t n = ir->oprnds[0] ? DIR_opnd_i32(ir->oprnds[0]) : 4;
+  int log2 = ispowerof2(n);
   if (log2 < 0) {
-    log2 = n < 1 ? 0 : std::bit_width(static_cast<uint64_t>(n));
-    n = static_cast<int64_t>(UINT64_C(1) << log2);
-    warn(ir->line, "W0001", "Power of 2 required, %lld assumed", static_cast<long long>(n));
+    log2 = nextpowerof2(n);
+    n = static_cast<int32_t>(UINT32_C(1) << (log2 & 31));
+    warn(ir->line, "W0001", "Power of 2 required, %d assumed", n);
   }
   if (log2 > MAX_ALIGN_LOG2) {
     warn(ir->line, "W0001", "Maximum alignment is to 32K boundary - alignment ignored");
