@@ -253,24 +253,23 @@ void OUT_remove_target(out_kind kind) {
   error_user(nullptr, "E1000", "Cannot remove %s: %s", dest.c_str(), strerror(err));
 }
 
+bool OUT_commit(out_kind kind) {
+  out_file &o = slot(kind);
+  if (!o.created) return true;
+  if (o.fp && !OUT_finish(kind)) return false;
+  if (!o.in_place && (chmod(o.path.c_str(), target_mode(o.dest)) != 0 ||
+                      rename(o.path.c_str(), o.dest.c_str()) != 0)) {
+    OUT_failed(kind, errno);
+    return false;
+  }
+  forget_temp(kind);
+  o.created = false;
+  return true;
+}
+
 bool OUT_commit_all() {
   bool ok = true;
-  for (const out_row &r : out_rows) {
-    out_file &o = slot(r.kind);
-    if (!o.created) continue;
-    if (o.fp && !OUT_finish(r.kind)) {
-      ok = false;
-      continue;
-    }
-    if (!o.in_place && (chmod(o.path.c_str(), target_mode(o.dest)) != 0 ||
-                        rename(o.path.c_str(), o.dest.c_str()) != 0)) {
-      OUT_failed(r.kind, errno);
-      ok = false;
-      continue;
-    }
-    forget_temp(r.kind);
-    o.created = false;
-  }
+  for (const out_row &r : out_rows) ok = OUT_commit(r.kind) && ok;
   return ok;
 }
 

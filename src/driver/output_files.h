@@ -52,6 +52,9 @@ void OUT_discard(out_kind kind);
 // Removes the target itself when it is a regular file; a failure is reported.
 void OUT_remove_target(out_kind kind);
 
+// Puts one output in place now: for one that is kept after a failed run too,
+// as a listing that shows the errors. A failed rename is reported with E1000.
+bool OUT_commit(out_kind kind);
 // At a successful end: every output still held replaces its target. A failed
 // rename is reported with E1000. False when any failed.
 bool OUT_commit_all();
