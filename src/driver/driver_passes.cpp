@@ -242,4 +242,8 @@ void end_processing() {
     OUT_finish(out_kind::dependency);
     dependency_file = nullptr;
   }
+  if (pbc_output_file) {
+    OUT_finish(out_kind::pbc);
+    pbc_output_file = nullptr;
+  }
 }
