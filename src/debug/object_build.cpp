@@ -2,6 +2,7 @@
 // in a fixed order, and the file is written.
 #include "debug/object_build.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
@@ -11,6 +12,7 @@
 #include "driver/diag.h"
 #include "driver/driver.h"
 #include "driver/options.h"
+#include "driver/output_files.h"
 #include "expr/symbols.h"
 #include "ofe/object_file.h"
 #include "target/arm/trg.h"
@@ -62,12 +64,17 @@ void BLD_object() {
   // DWARF refers to the final sections and symbols, so it comes last.
   if (dwarf_requested()) dw_write();
 
-  if (ofile->save_obj(assy_obj_name) < 0) {
-    error_user(nullptr, "E1000", "Failed to write object file : %s", assy_obj_name);
+  // The file is written beside its target and put in place when the run ends well.
+  if (!OUT_create(out_kind::object) || ofile->save_obj(assy_obj_name, OUT_path(out_kind::object)) < 0) {
+    const int err = errno;
+    if (err)
+      OUT_failed(out_kind::object, err);
+    else
+      error_user(nullptr, "E1000", "Failed to write object file : %s", assy_obj_name);
     std::exit(1);
   }
   // The engine reports what it could not represent (a truncated offset, say)
   // and still writes the file: a flawed object must not pass for a good one.
-  if (num_errors) std::remove(assy_obj_name);
+  if (num_errors) OUT_discard(out_kind::object);
   print_section_sizes();
 }

@@ -13,6 +13,7 @@
 #include "driver/driver.h"
 #include "driver/driver_run.h"
 #include "driver/options.h"
+#include "driver/output_files.h"
 #include "source/copy.h"
 #include "support/fhm.h"
 #include "target/arm/trg.h"
@@ -21,6 +22,9 @@ namespace {
 
 FILE *cmd_file = nullptr;
 int next_argv_index = 1;
+// The command files opened since the last word of argv: one of them opened
+// again would be read for ever.
+std::vector<out_identity> cmd_chain;
 // The last two command-file words stay alive: an option handler may still be
 // reading the option's own word while it fetches its detached argument.
 char *cmd_words[2] = {nullptr, nullptr};
@@ -96,21 +100,63 @@ void scan_for_foreign_source(const char *src) {
 }
 
 void open_dependency_file() {
-  if (opt_on(OPT_ASM_INCLUDES) && !opt_on(OPT_ASM_DEPENDENCY)) global_opts->setopt(OPT_ASM_DEPENDENCY);
   if (!opt_on(OPT_ASM_DEPENDENCY)) return;
-  global_opts->clearopt(OPT_ASM_LISTING);
-  dependency_filename = static_cast<char *>(calloc(4096, 1));
-  const char *given = global_opts->getargcount(OPT_ASM_DEPENDENCY) ? global_opts->getstrarg(OPT_ASM_DEPENDENCY, 0)
-                                                                  : nullptr;
-  const std::string name = given && *given ? std::string(given) : with_extension(assy_obj_name, ".ppa");
-  strncpy(dependency_filename, name.c_str(), 4095);
-  dependency_file = fopen(dependency_filename, "w");
-  if (!dependency_file) {
+  if (!OUT_create(out_kind::dependency) || !(dependency_file = OUT_stream(out_kind::dependency))) {
     const int err = errno;
     error_user(nullptr, "E1000", "failed to open %s: %s\n", dependency_filename, strerror(err));
     exit(1);
   }
   if (!opt_on(OPT_ASM_INCLUDES)) fprintf(dependency_file, "%s: %s\n", assy_obj_name, assy_src_name);
+}
+
+// Under --pbc_output nothing else is made; a file that can't be made ends
+// the option, and the listing may then stand.
+void open_pbc_output() {
+  if (!opt_on(OPT_PBC_OUTPUT)) return;
+  if (OUT_create(out_kind::pbc) && (pbc_output_file = OUT_stream(out_kind::pbc))) return;
+  OUT_discard(out_kind::pbc);
+  fputs("Aborting OPBC!!!\n", stderr);
+  global_opts->clearopt(OPT_PBC_OUTPUT);
+}
+
+// The names of every file the run will write are known: none may be an
+// input or another of them.
+void claim_outputs() {
+  if (opt_on(OPT_ASM_INCLUDES) && !opt_on(OPT_ASM_DEPENDENCY)) global_opts->setopt(OPT_ASM_DEPENDENCY);
+  if (opt_on(OPT_ASM_DEPENDENCY)) {
+    global_opts->clearopt(OPT_ASM_LISTING);
+    dependency_filename = static_cast<char *>(calloc(4096, 1));
+    const char *given =
+        global_opts->getargcount(OPT_ASM_DEPENDENCY) ? global_opts->getstrarg(OPT_ASM_DEPENDENCY, 0) : nullptr;
+    const std::string name = given && *given ? std::string(given) : with_extension(assy_obj_name, ".ppa");
+    strncpy(dependency_filename, name.c_str(), 4095);
+    OUT_claim(out_kind::dependency, dependency_filename);
+  }
+  if (opt_on(OPT_PBC_OUTPUT)) {
+    OUT_claim(out_kind::pbc, pbc_output_name.c_str());
+    open_pbc_output();
+  }
+  if (opt_on(OPT_PBC_OUTPUT)) global_opts->clearopt(OPT_ASM_LISTING);
+  if (opt_on(OPT_ASM_LISTING)) OUT_claim(out_kind::listing, assy_lst_name);
+  if (opt_on(OPT_PROFILE)) OUT_claim(out_kind::profile, assy_prf_name);
+  if (!opt_on(OPT_ASM_DEPENDENCY) && !opt_on(OPT_PBC_OUTPUT) && !opt_on(OPT_ABSOLUTE_LISTING) &&
+      !opt_on(OPT_PREPROCESS))
+    OUT_claim(out_kind::object, assy_obj_name);
+}
+
+// Opens a side output through the file manager; null with errno.
+FHM_FILE *open_side_output(out_kind kind) {
+  if (!OUT_create(kind)) return nullptr;
+  FHM_FILE *f = fhm_open(OUT_path(kind), "w");
+  if (!f) {
+    const int err = errno;
+    OUT_discard(kind);
+    errno = err;
+    return nullptr;
+  }
+  // A write error must stay on the handle until it is closed and checked.
+  f->set_persistent(true);
+  return f;
 }
 
 }  // namespace
@@ -162,9 +208,10 @@ const char *next_argument() {
       keep_cmd_word(word);
       return word;
     }
-    fclose(cmd_file);
+    fclose(cmd_file);  // read only: nothing to lose
     cmd_file = nullptr;
   }
+  cmd_chain.clear();
   if (sys_argv && next_argv_index < sys_argc) return sys_argv[next_argv_index++];
   return nullptr;
 }
@@ -176,6 +223,17 @@ void open_cmd_file(const char *name) {
     error_user(nullptr, "E1000", "Cannot open command file '%s': %s", name, strerror(err));
     return;
   }
+  out_identity id;
+  if (OUT_identify(name, id)) {
+    for (const out_identity &seen : cmd_chain)
+      if (OUT_same(seen, id)) {
+        fclose(f);
+        error_user(nullptr, "E1000", "Command file '%s' includes itself", name);
+        exit(1);
+      }
+    cmd_chain.push_back(id);
+  }
+  OUT_note_input(name);
   // Only the file opened last is read on.
   if (cmd_file) fclose(cmd_file);
   cmd_file = f;
@@ -215,10 +273,12 @@ void get_files() {
   store_name(assy_lst_name, n.lst);
   store_name(assy_prf_name, n.prf);
 
+  OUT_note_input(assy_src_name);
+  claim_outputs();
+
   scan_for_foreign_source(assy_src_name);
   TRG_verify_options();
   open_dependency_file();
-  if (opt_on(OPT_PBC_OUTPUT)) global_opts->clearopt(OPT_ASM_LISTING);
 
   paths[0] = name_directory(assy_src_name);
 
@@ -229,7 +289,7 @@ void get_files() {
     exit(1);
   }
   if (opt_on(OPT_ASM_LISTING)) {
-    ASSY_LST = fhm_open(assy_lst_name, "w");
+    ASSY_LST = open_side_output(out_kind::listing);
     if (!ASSY_LST) {
       const int err = errno;
       error_user(nullptr, "E1000", "cannot open listing file %s: %s", assy_lst_name, strerror(err));
@@ -237,7 +297,7 @@ void get_files() {
     }
   }
   if (opt_on(OPT_PROFILE)) {
-    ASSY_PRF = fhm_open(assy_prf_name, "w");
+    ASSY_PRF = open_side_output(out_kind::profile);
     if (!ASSY_PRF) {
       const int err = errno;
       error_user(nullptr, "E1000", "cannot open profile file %s: %s", assy_prf_name, strerror(err));

@@ -13,6 +13,7 @@
 #include "driver/driver.h"
 #include "driver/driver_run.h"
 #include "driver/options.h"
+#include "driver/output_files.h"
 #include "driver/pipeline.h"
 #include "expr/symbols.h"
 #include "listing/listing.h"
@@ -229,16 +230,20 @@ void end_processing() {
   if (opt_on(OPT_CROSS_REFERENCE)) printxref();
 
   if (ASSY_LST) {
-    fhm_close(ASSY_LST);
+    LST_close();
     ASSY_LST = nullptr;
   }
   if (ASSY_PRF) {
-    fhm_close(ASSY_PRF);
+    OUT_finish(out_kind::profile, ASSY_PRF);
     ASSY_PRF = nullptr;
   }
   MAC_close();
   if (opt_on(OPT_ASM_DEPENDENCY) && dependency_file) {
-    fclose(dependency_file);
+    OUT_finish(out_kind::dependency);
     dependency_file = nullptr;
+  }
+  if (pbc_output_file) {
+    OUT_finish(out_kind::pbc);
+    pbc_output_file = nullptr;
   }
 }

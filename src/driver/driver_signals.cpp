@@ -1,18 +1,29 @@
 // Fatal signals: say what happened, where, and leave with status 2.
+#include <algorithm>
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 #include "directives/sections.h"
 #include "driver/driver.h"
 #include "driver/driver_run.h"
+#include "driver/output_files.h"
 #include "source/copy.h"
 #include "source/lexer.h"
 
 namespace {
+
+// The address sanitizer reports memory faults with their history; its
+// report is worth more than ours.
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool sanitizer_reports_faults = true;
+#else
+constexpr bool sanitizer_reports_faults = false;
+#endif
 
 constexpr int fatal_signals[] = {SIGILL, SIGABRT, SIGFPE, SIGSEGV, SIGTERM, SIGINT,
                                  SIGHUP, SIGTRAP, SIGBUS, SIGSYS, SIGXCPU, SIGXFSZ};
@@ -87,12 +98,28 @@ void common_signal_handler(int sig, const char *program, const char *fmt, ...) {
 }
 
 void signal_handler(int sig) {
+  OUT_remove_temporaries_now();
   const std::string context = signal_context();
   common_signal_handler(sig, sys_argv ? sys_argv[0] : execname, "%s", context.c_str());
 }
 
 void install_common_handlers(void (*handler)(int)) {
-  for (int sig : fatal_signals) signal(sig, handler);
+  // The handler must run when the stack itself is what overflowed: it gets
+  // a stack of its own, made once.
+  static std::vector<char> alternate(std::max<size_t>(SIGSTKSZ, 64 * 1024));
+  stack_t ss{};
+  ss.ss_sp = alternate.data();
+  ss.ss_size = alternate.size();
+  const bool own_stack = !sanitizer_reports_faults && sigaltstack(&ss, nullptr) == 0;
+
+  struct sigaction sa {};
+  sa.sa_handler = handler;
+  sigemptyset(&sa.sa_mask);
+  sa.sa_flags = own_stack ? SA_ONSTACK : 0;
+  for (int sig : fatal_signals) {
+    if (sanitizer_reports_faults && (sig == SIGSEGV || sig == SIGBUS)) continue;
+    sigaction(sig, &sa, nullptr);
+  }
 }
 
 void signal_init() { install_common_handlers(signal_handler); }

@@ -6,7 +6,6 @@
 #include <memory>
 #include <new>
 #include <typeinfo>
-#include <unistd.h>
 
 #include "debug/object_build.h"
 #include "debug/dwarf_directives.h"
@@ -15,6 +14,7 @@
 #include "driver/driver.h"
 #include "driver/driver_run.h"
 #include "driver/options.h"
+#include "driver/output_files.h"
 #include "expr/symbols.h"
 #include "support/memory.h"
 #include "target/arm/jumps.h"
@@ -52,8 +52,10 @@ int run(int argc, char **argv) {
   dw_cleanup();
   destroy_ofile();
 
-  if (num_errors == 0) return 0;
-  if (opt_on(OPT_ASM_DEPENDENCY) && dependency_filename) unlink(dependency_filename);
+  if (num_errors == 0 && OUT_commit_all()) return 0;
+  OUT_discard_all();
+  // A failed run leaves no dependency file, not even an older one.
+  if (opt_on(OPT_ASM_DEPENDENCY) && dependency_filename) OUT_remove_target(out_kind::dependency);
   return 1;
 }
 

@@ -224,4 +224,5 @@ char *fnextopt(FILE *fp);
 extern uint8_t big_endian_data;
 extern uint8_t big_endian_code;
 extern char **parser_options;     // null-ended words of --parser_opts
-extern FILE *pbc_output_file;     // --pbc_output
+extern FILE *pbc_output_file;     // --pbc_output, once get_files has made it
+extern std::string pbc_output_name;

@@ -18,6 +18,7 @@ uint8_t big_endian_data = 0;
 uint8_t big_endian_code = 0;
 char **parser_options = nullptr;
 FILE *pbc_output_file = nullptr;
+std::string pbc_output_name;
 
 namespace {
 // The storage behind parser_options.
@@ -152,12 +153,9 @@ void option_obj::run_action(option_id id, const option_arg *arg)
         }
         break;
     case OPT_PBC_OUTPUT:
-        if (pbc_output_file) fclose(pbc_output_file);
-        pbc_output_file = fopen(text, "wb");
-        if (!pbc_output_file) {
-            fputs("Aborting OPBC!!!\n", stderr);
-            clearopt(OPT_PBC_OUTPUT);
-        }
+        // Made once the command line is read and every output name is
+        // known, so that it can't replace an input; the last name counts.
+        pbc_output_name = text ? text : "";
         break;
     case OPT_SET_SCREEN_WIDTH:
         screen_line_width = static_cast<int32_t>(std::min<long>(num, INT32_MAX));

@@ -74,4 +74,6 @@ void LST_dump();
 // Writes one group to the listing file.
 void LST_print_group(const lst_group *group);
 void LST_free();
+// Ends the listing file at the end of the run (ASSY_LST is then dropped).
+void LST_close();
 void LST_clear();

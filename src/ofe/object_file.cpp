@@ -9,6 +9,7 @@
 #include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "ofe/elf_file.h"
 #include "ofe/of_machine.h"
@@ -167,7 +168,70 @@ std::string temporary_name(const char *name)
     return std::string(name) + "." + std::to_string(static_cast<long>(getpid())) + ".tmp";
 }
 
+// While the file is written the engine's complaints wait: once a write has
+// failed every later stage fails too, and only the failed write is news.
+struct held_error {
+    OF_ERROR_CODE code;
+    std::string text;
+};
+std::vector<held_error> held_errors;
+int held_errno = 0;
+
+void hold_error(OBJECT_FILE *f, OF_ERROR_CODE code, const char *text)
+{
+    if (held_errors.empty()) held_errno = errno;
+    held_errors.push_back({code, text ? text : ""});
+    f->clear_error();
+}
+
 }  // namespace
+
+int OBJECT_FILE::save_obj(const char *name, const char *path)
+{
+    if (!name) name = "";
+    FHM_FILE *fh = path ? fhm_open(path, "wb+") : nullptr;
+    if (!fh) return -1;
+    // Sections stay bound to the file after saving; the file may be renamed
+    // later, so the handle must never be evicted.
+    fh->set_persistent(true);
+
+    OF_ERROR_HANDLER handler = handler_m;
+    held_errors.clear();
+    held_errno = 0;
+    handler_m = hold_error;
+
+    int rc = -1;
+    FILE *fp = fh->fp();
+    long pos = fp ? ftell(fp) : -1;
+    if (pos >= 0) {
+        OF_FILE_HANDLE h = handle_m;
+        h.fh = fh;
+        h.name = name;
+        h.file_offset = static_cast<uint32_t>(pos);
+        h.file_size = 0;
+        h.owns_handle = true;
+        rc = save(h);
+    }
+    handler_m = handler;
+
+    fp = fh->fp();
+    int err = 0;
+    errno = 0;
+    if (!fp || ferror(fp) || fflush(fp) != 0) err = held_errno ? held_errno : errno ? errno : EIO;
+    if (err) {
+        held_errors.clear();
+        // An owned handle stays open until the object goes: sections may be
+        // bound to it.
+        if (handle_m.fh != fh) fhm_close(fh);
+        errno = err;
+        return -1;
+    }
+    for (const held_error &e : held_errors) set_error(e.code, "%s", e.text.c_str());
+    held_errors.clear();
+    if (rc != 0 && handle_m.fh != fh) fhm_close(fh);
+    errno = 0;
+    return rc == 0 ? 0 : -1;
+}
 
 int OBJECT_FILE::save_obj(const char *name)
 {
@@ -175,42 +239,19 @@ int OBJECT_FILE::save_obj(const char *name)
     bool in_place = write_in_place(name);
     std::string path = in_place ? std::string(name) : temporary_name(name);
     // The rename would replace a file that may not be written to.
-    bool refused = access(name, F_OK) == 0 && access(name, W_OK) != 0;
-    FHM_FILE *fh = refused ? nullptr : fhm_open(path.c_str(), "wb+");
-    if (!fh) {
+    if (access(name, F_OK) == 0 && access(name, W_OK) != 0) {
         set_error(OFERR_FILE_ACCESS, "failed to open \"%s\" for writing", name);
         return -1;
     }
-    // Sections stay bound to the file after saving; after the rename the
-    // temporary name is gone, so the handle must never be evicted.
-    fh->set_persistent(true);
-
-    long pos = -1;
-    FILE *fp = fh->fp();
-    if (!fp) {
-        set_error(OFERR_FILE_ACCESS, "pftell called with a NULL FILE pointer");
-    } else {
-        pos = ftell(fp);
-        if (pos < 0) set_error(OFERR_FILE_ACCESS, "call to pftell failed:  %s", strerror(errno));
-    }
-
-    OF_FILE_HANDLE h = handle_m;
-    h.fh = fh;
-    h.name = name;
-    h.file_offset = static_cast<uint32_t>(pos);
-    h.file_size = 0;
-    h.owns_handle = true;
-    int rc = save(h);
-    if (rc == 0) {
-        fp = fh->fp();
-        if (!fp || fflush(fp) != 0) rc = -1;
+    int rc = save_obj(name, path.c_str());
+    if (rc != 0 && !saved_m && errno != 0 && !file_handle()) {
+        set_error(OFERR_FILE_ACCESS, "failed to open \"%s\" for writing", name);
+        if (!in_place) remove(path.c_str());
+        return -1;
     }
     if (rc == 0 && !in_place && rename(path.c_str(), name) != 0) rc = -1;
     if (rc != 0) {
         set_error(OFERR_FILE_ACCESS, "an error occurred while writing \"%s\"", name);
-        // Sections may already be bound to the handle: an owned one stays
-        // open until the object goes.
-        if (handle_m.fh != fh) fhm_close(fh);
         if (!in_place) remove(path.c_str());
         return -1;
     }

@@ -59,7 +59,13 @@ public:
     virtual ELF_FILE *elf_api();
 
     // Saving.
+    // Writes the file under a temporary name and renames it into place.
     int save_obj(const char *name);
+    // Writes the file named `name` to `path`, which the caller puts in place.
+    // On a failed write the result is -1 with errno set and the engine's
+    // messages about it are dropped; -1 with errno 0 is an engine failure,
+    // already reported through the error handler.
+    int save_obj(const char *name, const char *path);
     virtual int save(const OF_FILE_HANDLE &handle);
     bool saved() const { return saved_m; }
     FHM_FILE *file_handle() const { return handle_m.fh; }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "driver/driver.h"
+#include "driver/output_files.h"
 #include "source/copy.h"
 #include "support/fhm.h"
 
@@ -21,6 +22,7 @@ FHM_FILE *search_dirs(const char *name, const char *mode) {
   auto opened = [&](const std::string &path) -> FHM_FILE * {
     FHM_FILE *f = fhm_open(path.c_str(), mode);
     if (!f) return nullptr;
+    OUT_check_input(path.c_str());
     const char *dir = nullptr;
     fn_split(path.c_str(), &dir, nullptr, nullptr);
     found_dir = dir ? dir : "";

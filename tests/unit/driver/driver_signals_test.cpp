@@ -1,7 +1,9 @@
 // What a fatal signal makes the program say.
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <csignal>
+#include <sys/wait.h>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -20,6 +22,13 @@ std::string report(int sig, const char *context) {
   for (int c; (c = fgetc(f)) != EOF;) text += static_cast<char>(c);
   fclose(f);
   return text;
+}
+
+// Runs out of any stack: each frame is kept by its volatile array.
+int overflow(int depth) {
+  volatile char frame[1024];
+  frame[0] = static_cast<char>(depth);
+  return depth < INT_MAX ? overflow(depth + 1) + frame[0] : 0;
 }
 
 }  // namespace
@@ -67,4 +76,16 @@ TEST(DriverSignals, ContextNamesTheSourceFile) {
   const std::string ctx = signal_context();
   EXPECT_EQ(ctx.rfind("while processing", 0), 0u);
   EXPECT_LE(ctx.size(), 1023u);
+}
+
+// A stack overflow is reported like any other fault; the handler has a stack
+// of its own to run on. Under the address sanitizer its report comes instead.
+TEST(DriverSignals, StackOverflowIsReported) {
+#ifdef __SANITIZE_ADDRESS__
+  const auto failed = [](int status) { return WIFEXITED(status) && WEXITSTATUS(status) != 0; };
+  EXPECT_EXIT((signal_init(), overflow(0)), failed, "AddressSanitizer: stack-overflow");
+#else
+  EXPECT_EXIT((signal_init(), overflow(0)), ::testing::ExitedWithCode(2),
+              "INTERNAL ERROR: .* experienced a segmentation fault");
+#endif
 }
