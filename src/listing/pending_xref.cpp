@@ -3,6 +3,6 @@
 
 #include "driver/diag.h"
 
-[[gnu::weak]] void printxref() {
+void printxref() {
   error_user(nullptr, "E9999", "--cross_reference is not supported yet");
 }
