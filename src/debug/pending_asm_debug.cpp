@@ -4,5 +4,5 @@
 #include "debug/asm_debug.h"
 #include "driver/pending.h"
 
-[[gnu::weak]] void DP_asmfunc(instruct *ir) { DIR_parse_not_supported(ir); }
-[[gnu::weak]] void DP_endasmfunc(instruct *ir) { DIR_parse_not_supported(ir); }
+void DP_asmfunc(instruct *ir) { DIR_parse_not_supported(ir); }
+void DP_endasmfunc(instruct *ir) { DIR_parse_not_supported(ir); }

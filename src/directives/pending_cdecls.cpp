@@ -3,5 +3,5 @@
 #include "directives/cdecls.h"
 #include "driver/pending.h"
 
-[[gnu::weak]] void DP_cdecls(instruct *ir) { DIR_pass_over_operands(ir); }
-[[gnu::weak]] void GD_cdecls(instruct *ir) { DIR_not_supported(ir); }
+void DP_cdecls(instruct *ir) { DIR_pass_over_operands(ir); }
+void GD_cdecls(instruct *ir) { DIR_not_supported(ir); }

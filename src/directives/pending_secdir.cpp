@@ -1,5 +1,5 @@
 // Interim bodies of what the section and symbol directives call in later
-// steps. Each gives way to the real one when its subsystem lands.
+// steps. Each goes when the real one lands: two definitions don't link.
 #include <cstring>
 
 #include "directives/secdir_pending.h"
@@ -8,7 +8,7 @@
 #include "source/lexer.h"
 
 // The structures step makes it real; the rounding is all it does.
-[[gnu::weak]] uint32_t SU_align(uint32_t counter, uint32_t alignment) {
+uint32_t SU_align(uint32_t counter, uint32_t alignment) {
   if (alignment < 2) return counter;
   const uint32_t rest = counter % alignment;
   return rest ? counter + (alignment - rest) : counter;
@@ -28,14 +28,14 @@ constexpr sized_type dir_types[] = {
 };
 }  // namespace
 
-[[gnu::weak]] const dir_type_row *get_type(const char *name, int code) {
+const dir_type_row *get_type(const char *name, int code) {
   for (const sized_type *t = dir_types; t->row.name; ++t) {
     if (name ? std::strcmp(name, t->row.name) == 0 : t->row.type == code) return &t->row;
   }
   return nullptr;
 }
 
-[[gnu::weak]] uint32_t get_dir_size(const dir_type_row *row) {
+uint32_t get_dir_size(const dir_type_row *row) {
   for (const sized_type *t = dir_types; t->row.name; ++t)
     if (&t->row == row) return t->bits;
   return 65535;
@@ -44,9 +44,9 @@ constexpr sized_type dir_types[] = {
 // The substitution symbols step makes register substitution real. Until
 // then a name that isn't a register can be refused as the table would; a
 // real substitution can't be honoured, and says so.
-[[gnu::weak]] SUBREGSYMTBL subregsymtbl;
+SUBREGSYMTBL subregsymtbl;
 
-[[gnu::weak]] int SUBREGSYMTBL::SUBREGSYM_insert(std::string name, std::string value) {
+int SUBREGSYMTBL::SUBREGSYM_insert(std::string name, std::string value) {
   const symbol_record *reg = SYM_query(value);
   if (!reg || reg->sym_value.v_type != VT_REG) return 0;
   error(curline, "E9999", ".map substitution of %s is not supported yet", name.c_str());
@@ -54,12 +54,12 @@ constexpr sized_type dir_types[] = {
 }
 
 // Nothing was stored, so there is nothing to clear.
-[[gnu::weak]] void SUBREGSYMTBL::SUBREGSYM_clear() {}
+void SUBREGSYMTBL::SUBREGSYM_clear() {}
 
 // Assembly-source debug makes it real; until then no function is ever open.
-[[gnu::weak]] unsigned short DBD_asmfunc_tag(const DWE::DW_DIE *) { return 0; }
+unsigned short DBD_asmfunc_tag(const DWE::DW_DIE *) { return 0; }
 
 // The COFF writer makes it real; no ZQ-COFF object can be made before it.
-[[gnu::weak]] void zqcoff_set_scn_flags(OFE::OF_SECTION *, uint32_t) {
+void zqcoff_set_scn_flags(OFE::OF_SECTION *, uint32_t) {
   error_internal(1, curline, "ZQ-COFF section flags without the COFF writer");
 }

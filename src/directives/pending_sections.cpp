@@ -1,5 +1,5 @@
 // Interim bodies of what the section manager and the data directives call in
-// later steps. Each gives way to the real one when its subsystem lands.
+// later steps. Each goes when the real one lands: two definitions don't link.
 #include "directives/section_pending.h"
 
 #include "driver/diag.h"
@@ -9,27 +9,27 @@
 
 // Jump expansion makes it real; until then no section has a jump list and
 // nothing calls this.
-[[gnu::weak]] void VLI_addalign(int, int32_t) {
+void VLI_addalign(int, int32_t) {
   error_internal(1, curline, "alignment record without jump expansion");
 }
 
 // Assembly-source debug makes these real. dw_init refuses the DWARF modes
 // until then, so there is no debug data to add to.
-[[gnu::weak]] DWE::DW_DIE *DBD_curr_asmfunc = nullptr;
-[[gnu::weak]] void dw_asm_psn(linebuf *) {}
-[[gnu::weak]] void dw_create_asm_func(instruct *, int, unsigned short) {}
+DWE::DW_DIE *DBD_curr_asmfunc = nullptr;
+void dw_asm_psn(linebuf *) {}
+void dw_create_asm_func(instruct *, int, unsigned short) {}
 
 // The COFF writer and COFF debug make these real. No ZQ-COFF object can be
 // made until then, so these are not reached; if they were, say so.
-[[gnu::weak]] void CSYM_asm_line(section_record *, instruct *ir) {
+void CSYM_asm_line(section_record *, instruct *ir) {
   error(ir ? ir->line : curline, "E9999", "COFF source debugging is not supported yet");
 }
-[[gnu::weak]] void CSYM_patch_asmfunc_syms() {}
-[[gnu::weak]] void debug_sym(instruct *statement, int, int, int, int, const char *) {
+void CSYM_patch_asmfunc_syms() {}
+void debug_sym(instruct *statement, int, int, int, int, const char *) {
   error(statement ? statement->line : curline, "E9999", "--cdebug_asm_data is not supported yet");
 }
 
 // Relocation emission makes it real, with the rest of its family.
-[[gnu::weak]] bool RELOC_is_scnrel(const value_record *value) {
+bool RELOC_is_scnrel(const value_record *value) {
   return RELOC_const_scnrel_offset(value) && value->v_type != VT_LABEL && value->v_type != VT_LDLABEL;
 }

@@ -3,14 +3,14 @@
 #include "directives/struct_directives.h"
 #include "driver/pending.h"
 
-[[gnu::weak]] void DP_struct(instruct *ir) { DIR_pass_over_operands(ir); }
-[[gnu::weak]] void DP_union(instruct *ir) { DIR_pass_over_operands(ir); }
-[[gnu::weak]] void DP_tag(instruct *ir) { DIR_pass_over_operands(ir); }
-[[gnu::weak]] void GD_struct(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void GD_union(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void GD_tag(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void GD_access(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void GD_endstruct(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void GD_endunion(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void GD_enum(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void GD_endenum(instruct *ir) { DIR_not_supported(ir); }
+void DP_struct(instruct *ir) { DIR_pass_over_operands(ir); }
+void DP_union(instruct *ir) { DIR_pass_over_operands(ir); }
+void DP_tag(instruct *ir) { DIR_pass_over_operands(ir); }
+void GD_struct(instruct *ir) { DIR_not_supported(ir); }
+void GD_union(instruct *ir) { DIR_not_supported(ir); }
+void GD_tag(instruct *ir) { DIR_not_supported(ir); }
+void GD_access(instruct *ir) { DIR_not_supported(ir); }
+void GD_endstruct(instruct *ir) { DIR_not_supported(ir); }
+void GD_endunion(instruct *ir) { DIR_not_supported(ir); }
+void GD_enum(instruct *ir) { DIR_not_supported(ir); }
+void GD_endenum(instruct *ir) { DIR_not_supported(ir); }

@@ -1,7 +1,7 @@
 #pragma once
 // What the section and symbol directives call in subsystems of later steps;
-// the interim bodies are in pending_secdir.cpp and give way when their
-// subsystem lands.
+// the interim bodies are in pending_secdir.cpp and go when their subsystem
+// lands.
 #include <cstdint>
 #include <string>
 

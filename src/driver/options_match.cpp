@@ -98,8 +98,10 @@ int option_obj::match_word(const char *word, const char **bad_place)
         return 0;
     }
     if (strncmp(word, s->text, pos) != 0) {
-        std::string typed = "-" + std::string(word, pos);
-        std::string canonical = "-" + std::string(s->text);
+        std::string typed(1, '-');
+        typed.append(word, pos);
+        std::string canonical(1, '-');
+        canonical.append(s->text);
         deprecated_case(typed.c_str(), canonical.c_str());
     }
     if (s->id == HELP_ID) {

@@ -2,5 +2,5 @@
 // so there is no code to name and no pending error to forget.
 #include "driver/diag_engines.h"
 
-[[gnu::weak]] void dw_clear_pending_error(DWE::DWARF_EDITOR *) {}
-[[gnu::weak]] const char *dw_error_code_name(DWE::DW_ERROR_CODE) { return "error"; }
+void dw_clear_pending_error(DWE::DWARF_EDITOR *) {}
+const char *dw_error_code_name(DWE::DW_ERROR_CODE) { return "error"; }

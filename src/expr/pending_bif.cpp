@@ -4,7 +4,7 @@
 #include "source/lexer.h"
 #include "source/ophash.h"
 
-[[gnu::weak]] node *BIF_term() {
+node *BIF_term() {
   const char *name = curtk->value.op ? curtk->value.op->name.c_str() : "$$";
   error(curline, "E0200", "Built-in function %s is not available", name);
   return nullptr;

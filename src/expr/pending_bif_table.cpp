@@ -2,4 +2,4 @@
 // identifier. The built-in functions step fills it.
 #include "expr/bif_table.h"
 
-[[gnu::weak]] extern const bifcn_oprec built_in_fcns[] = {{nullptr, nullptr, 0}};
+extern const bifcn_oprec built_in_fcns[] = {{nullptr, nullptr, 0}};

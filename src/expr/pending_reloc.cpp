@@ -30,7 +30,7 @@ void scan(const node *n, tree_facts *f) {
 
 }  // namespace
 
-[[gnu::weak]] void E_reloc(value_record *value, node *n) {
+void E_reloc(value_record *value, node *n) {
   tree_facts f;
   scan(n, &f);
   E_clrval(value);

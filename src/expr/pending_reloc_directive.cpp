@@ -3,4 +3,4 @@
 #include "expr/reloc_directive.h"
 #include "driver/pending.h"
 
-[[gnu::weak]] void DP_reloc(instruct *ir) { DIR_parse_not_supported(ir); }
+void DP_reloc(instruct *ir) { DIR_parse_not_supported(ir); }

@@ -10,6 +10,9 @@ extern uint16_t LST_linesprinted;
 extern uint16_t LST_pagenum;
 extern char LST_title[65];
 
+// Starts a new page of the listing file.
+void LST_pagehdr();
+
 void DP_title(instruct *ir);     // .title
 void DP_option(instruct *ir);    // .option
 void DP_lstparm(instruct *ir);   // .tab, .width, .length

@@ -5,17 +5,17 @@
 
 #include "driver/pending.h"
 
-[[gnu::weak]] uint16_t LST_pagelen = 60;
-[[gnu::weak]] uint16_t LST_pagewidth = 104;
-[[gnu::weak]] uint16_t LST_tabwidth = 8;
-[[gnu::weak]] uint16_t LST_linesprinted = 32768;
-[[gnu::weak]] uint16_t LST_pagenum = 0;
-[[gnu::weak]] char LST_title[65];
+uint16_t LST_pagelen = 60;
+uint16_t LST_pagewidth = 104;
+uint16_t LST_tabwidth = 8;
+uint16_t LST_linesprinted = 32768;
+uint16_t LST_pagenum = 0;
+char LST_title[65];
 
-[[gnu::weak]] void DP_title(instruct *ir) { DIR_pass_over_operands(ir); }
-[[gnu::weak]] void DP_option(instruct *ir) { DIR_pass_over_operands(ir); }
-[[gnu::weak]] void DP_lstparm(instruct *ir) { DIR_pass_over_operands(ir); }
-[[gnu::weak]] void GD_title(instruct *) {}
-[[gnu::weak]] void GD_option(instruct *) {}
-[[gnu::weak]] void GD_lstparms(instruct *) {}
-[[gnu::weak]] void GD_lstflags(instruct *) {}
+void DP_title(instruct *ir) { DIR_pass_over_operands(ir); }
+void DP_option(instruct *ir) { DIR_pass_over_operands(ir); }
+void DP_lstparm(instruct *ir) { DIR_pass_over_operands(ir); }
+void GD_title(instruct *) {}
+void GD_option(instruct *) {}
+void GD_lstparms(instruct *) {}
+void GD_lstflags(instruct *) {}

@@ -4,7 +4,7 @@
 #include "driver/diag.h"
 #include "driver/driver.h"
 
-[[gnu::weak]] void printxref() {
+void printxref() {
   if (ASSY_LST) return;  // the table belongs to the listing, which is refused as a whole
   error_user(nullptr, "E9999", "--cross_reference is not supported yet");
 }

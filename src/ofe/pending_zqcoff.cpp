@@ -4,6 +4,6 @@
 
 namespace OFE {
 
-[[gnu::weak]] OBJECT_FILE *new_ZQCOFF_FILE(const OF_FILE_HANDLE &) { return nullptr; }
+OBJECT_FILE *new_ZQCOFF_FILE(const OF_FILE_HANDLE &) { return nullptr; }
 
 }  // namespace OFE

@@ -3,4 +3,4 @@
 #include "source/mlib.h"
 #include "driver/pending.h"
 
-[[gnu::weak]] void MLIB_include(instruct *ir) { DIR_not_supported(ir); }
+void MLIB_include(instruct *ir) { DIR_not_supported(ir); }

@@ -5,26 +5,26 @@
 #include "source/lexer.h"
 #include "source/subsym.h"
 
-[[gnu::weak]] int32_t sstr_end_pos = -1;
-[[gnu::weak]] SUBSYMTBL subsymtbl;
+int32_t sstr_end_pos = -1;
+SUBSYMTBL subsymtbl;
 
-[[gnu::weak]] void LEX_prescan() {}
+void LEX_prescan() {}
 
-[[gnu::weak]] s_sym *SUBSYMTBL::SUBSYM_find(std::string, s_sym **out) {
+s_sym *SUBSYMTBL::SUBSYM_find(std::string, s_sym **out) {
   if (out) *out = nullptr;
   return nullptr;
 }
-[[gnu::weak]] s_sym *SUBSYMTBL::SUBSYM_find(token *, s_sym **out) {
+s_sym *SUBSYMTBL::SUBSYM_find(token *, s_sym **out) {
   if (out) *out = nullptr;
   return nullptr;
 }
-[[gnu::weak]] int SUBSYMTBL::SUBSYM_check(std::string) { return 1; }
+int SUBSYMTBL::SUBSYM_check(std::string) { return 1; }
 // Reached only through an entry, and there are none.
-[[gnu::weak]] void SUBSYMTBL::SUBSYM_expand(token *tk, s_sym *) {
+void SUBSYMTBL::SUBSYM_expand(token *tk, s_sym *) {
   error_internal(1, curline, "substitution of %s without substitution symbols", tk && tk->value.sval ? tk->value.sval : "?");
 }
-[[gnu::weak]] void SUBSYMTBL::SUBSYM_insert(std::string name, std::string) {
+void SUBSYMTBL::SUBSYM_insert(std::string name, std::string) {
   error(curline, "E0301", "Substitution symbol %s can't be defined in this build", name.c_str());
 }
-[[gnu::weak]] void SUBSYMTBL::SUBSYM_remove(std::string) {}
-[[gnu::weak]] void SUBSYMTBL::SUBSYM_clear() {}
+void SUBSYMTBL::SUBSYM_remove(std::string) {}
+void SUBSYMTBL::SUBSYM_clear() {}

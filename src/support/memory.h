@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <new>
-#include <source_location>
 #include <type_traits>
 #include <typeinfo>
 #include <utility>
@@ -42,9 +41,10 @@ public:
         BLOCK *next;   // the older one
     };
 
-    MZONE(uint32_t min_alloc, const char *file, int line);
-    explicit MZONE(uint32_t min_alloc = 4096,
-                   std::source_location loc = std::source_location::current());
+    // The defaults name the caller's place (std::source_location is not
+    // usable with every compiler this builds with).
+    explicit MZONE(uint32_t min_alloc = 4096, const char *file = __builtin_FILE(),
+                   int line = __builtin_LINE());
     MZONE(const MZONE &) = delete;
     MZONE &operator=(const MZONE &) = delete;
     ~MZONE();

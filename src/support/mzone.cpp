@@ -19,11 +19,6 @@ MZONE::MZONE(uint32_t min_alloc, const char *file, int line)
     enter_in_zonelist();
 }
 
-MZONE::MZONE(uint32_t min_alloc, std::source_location loc)
-    : MZONE(min_alloc, loc.file_name(), static_cast<int>(loc.line()))
-{
-}
-
 void MZONE::enter_in_zonelist()
 {
     unsigned at = zl_avail;

@@ -1,5 +1,5 @@
-// Interim bodies of what the target glue calls in later steps. Each gives way
-// to the real one when its subsystem lands.
+// Interim bodies of what the target glue calls in later steps. Each goes when
+// the real one lands: two definitions don't link.
 #include "target/arm/glue_pending.h"
 
 #include "driver/diag.h"
@@ -9,31 +9,31 @@
 
 // The relocations step makes it real. Until then a value that needs the
 // linker can't be written correctly, so it is refused with its symbol's name.
-[[gnu::weak]] void RELOC_emit(IOR_STRUCT *, value_record *value, uint32_t, const OFE::OF_RELOC_TYPE *, short,
-                              unsigned, unsigned) {
+void RELOC_emit(IOR_STRUCT *, value_record *value, uint32_t, const OFE::OF_RELOC_TYPE *, short,
+                unsigned, unsigned) {
   const char *name = value && value->v_symbol && !value->v_rel ? value->v_symbol->sym_name.c_str() : "expression";
   error(curline, "E0001", "Relocation for %s is not supported yet", name);
 }
 
 // The target state step makes it real; no architecture is selected before it.
-[[gnu::weak]] uint32_t arm_arch() { return ARCH_NONE; }
+uint32_t arm_arch() { return ARCH_NONE; }
 
 // The Thumb-2 encoder runs trials; no trial exists before it.
-[[gnu::weak]] uint8_t suppress_output = 0;
+uint8_t suppress_output = 0;
 
 // The Thumb-2 encoder counts these; without it no Thumb-2 instruction is seen.
-[[gnu::weak]] int64_t num_thumb2_keep = 0;
-[[gnu::weak]] int64_t num_thumb2_conv = 0;
-[[gnu::weak]] int64_t num_orig_thumb = 0;
-[[gnu::weak]] int64_t num_2opnd_conv = 0;
+int64_t num_thumb2_keep = 0;
+int64_t num_thumb2_conv = 0;
+int64_t num_orig_thumb = 0;
+int64_t num_2opnd_conv = 0;
 
 // The relocations step makes it real with the mapping-symbol queries. No
 // Thumb code is assembled before the Thumb encoders, so no value changes.
-[[gnu::weak]] void adjust_thumb_symbol_values() {}
+void adjust_thumb_symbol_values() {}
 
 // The COFF writer makes these real. No ZQ-COFF object can be made until
 // then, so they are not reached; if they were, say so.
-[[gnu::weak]] void set_zqcoff_fh_isa(unsigned) { error_internal(1, nullptr, "ZQ-COFF file header without the COFF writer"); }
-[[gnu::weak]] void set_zqcoff_fh_arm9abi() { error_internal(1, nullptr, "ZQ-COFF file header without the COFF writer"); }
-[[gnu::weak]] void set_zqcoff_fh_zqabi() { error_internal(1, nullptr, "ZQ-COFF file header without the COFF writer"); }
-[[gnu::weak]] void set_zqcoff_fh_dmode(bool) { error_internal(1, nullptr, "ZQ-COFF file header without the COFF writer"); }
+void set_zqcoff_fh_isa(unsigned) { error_internal(1, nullptr, "ZQ-COFF file header without the COFF writer"); }
+void set_zqcoff_fh_arm9abi() { error_internal(1, nullptr, "ZQ-COFF file header without the COFF writer"); }
+void set_zqcoff_fh_zqabi() { error_internal(1, nullptr, "ZQ-COFF file header without the COFF writer"); }
+void set_zqcoff_fh_dmode(bool) { error_internal(1, nullptr, "ZQ-COFF file header without the COFF writer"); }

@@ -4,19 +4,19 @@
 #include "source/lexer.h"
 #include "target/arm/opcodes.h"
 
-[[gnu::weak]] extern const mnemonic_row trg_mnemonics[] = {{nullptr, {}}};
+extern const mnemonic_row trg_mnemonics[] = {{nullptr, {}}};
 
 // No architecture is selected before the target state lands.
-[[gnu::weak]] bool arch_is_v6_or_higher() { return false; }
-[[gnu::weak]] bool arch_is_v6m0() { return false; }
+bool arch_is_v6_or_higher() { return false; }
+bool arch_is_v6m0() { return false; }
 
 // With no mnemonic rows a translated name finds nothing either.
-[[gnu::weak]] std::string ual_translate_name(const std::string &name) { return name; }
-[[gnu::weak]] bool has_mext_prefix(const char *, int *length_out) {
+std::string ual_translate_name(const std::string &name) { return name; }
+bool has_mext_prefix(const char *, int *length_out) {
   if (length_out) *length_out = 0;
   return false;
 }
 // Reached only through a mnemonic row, and there are none yet.
-[[gnu::weak]] void parse_simd_suffix(const mnemonic_row *row) {
+void parse_simd_suffix(const mnemonic_row *row) {
   error_internal(1, curline, "SIMD suffix of %s without the instruction tables", row ? row->name : "?");
 }

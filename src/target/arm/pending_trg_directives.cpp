@@ -4,9 +4,9 @@
 #include "target/arm/trg_directives.h"
 #include "driver/pending.h"
 
-[[gnu::weak]] void DP_battr(instruct *ir) { DIR_parse_not_supported(ir); }
-[[gnu::weak]] void TD_thumb_state(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void TD_t_ual_state(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void TD_arm_state(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void TD_thumb_func(instruct *ir) { DIR_not_supported(ir); }
-[[gnu::weak]] void TD_arm_func(instruct *ir) { DIR_not_supported(ir); }
+void DP_battr(instruct *ir) { DIR_parse_not_supported(ir); }
+void TD_thumb_state(instruct *ir) { DIR_not_supported(ir); }
+void TD_t_ual_state(instruct *ir) { DIR_not_supported(ir); }
+void TD_arm_state(instruct *ir) { DIR_not_supported(ir); }
+void TD_thumb_func(instruct *ir) { DIR_not_supported(ir); }
+void TD_arm_func(instruct *ir) { DIR_not_supported(ir); }
