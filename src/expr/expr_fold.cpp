@@ -39,7 +39,6 @@ bool compare(expr_opcode op, int cmp) {
   }
 }
 
-
 node *fold_int_binary(node *n) {
   value_record *a = n->n_left->n_value;
   const INT128 &x = a->v_val;

@@ -44,6 +44,8 @@ bool parse_reported = false;
 // Parentheses and unary operators nest by recursion; a bound keeps absurd
 // input from exhausting the stack.
 int nesting = 0;
+constexpr const char *NESTING_ID = "E1300";
+constexpr const char *NESTING_TEXT = "Expression nesting limit exceeded";
 
 // The token kind is in row `level` of trg_prec_tbl.
 bool in_row(int level, uint16_t kind) {
@@ -146,7 +148,7 @@ long EXPR_skim(const plain_token *tokens, size_t count, const char *text) {
         break;
       }
       if (++depth > E_MAX_NESTING) {
-        error(curline, "E1300", "Expression nesting limit exceeded");
+        error(curline, NESTING_ID, "%s", NESTING_TEXT);
         return -1;
       }
     }
@@ -181,7 +183,7 @@ void E_parse_error(const char *id, const char *text) {
 
 void E_parse_failed() { parse_reported = true; }
 
-void E_nest_error() { E_parse_error("E1300", "Expression nesting limit exceeded"); }
+void E_nest_error() { E_parse_error(NESTING_ID, NESTING_TEXT); }
 
 bool E_nest_enter() {
   if (nesting >= E_MAX_NESTING) {

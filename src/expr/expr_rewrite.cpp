@@ -18,7 +18,7 @@ bool rewrite_overflow = false;
 // A new interior node, simplified in turn.
 node *mk(expr_opcode op, node *left, node *right = nullptr) {
   node *n = E_mktree(op, left, right);
-  if (rewrite_depth >= MAX_REWRITE_DEPTH) {
+  if (rewrite_overflow || rewrite_depth >= MAX_REWRITE_DEPTH) {
     if (!rewrite_overflow) E_nest_error();
     rewrite_overflow = true;
     return n;
