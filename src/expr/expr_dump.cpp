@@ -2,6 +2,7 @@
 #include <cstdio>
 
 #include "expr/expr.h"
+#include "expr/expr_internal.h"
 #include "expr/reloc.h"
 #include "expr/symbols.h"
 
@@ -39,9 +40,11 @@ void E_dump_relexp(const value_record *v) {
 }
 
 void E_dump_expr(const node *n, int indent) {
-  if (!n) return;
-  std::printf("%*s%s%s", indent * 2, "", E_opname(n->n_op), n->n_value ? ": " : "\n");
-  if (n->n_value) E_dump_value(n->n_value);
-  E_dump_expr(n->n_left, indent + 1);
-  E_dump_expr(n->n_right, indent + 1);
+  // The walk only reads the tree; it takes mutable nodes for the simplifier.
+  E_walk(const_cast<node *>(n),
+         [indent](node *m, int depth) {
+           std::printf("%*s%s%s", (indent + depth) * 2, "", E_opname(m->n_op), m->n_value ? ": " : "\n");
+           if (m->n_value) E_dump_value(m->n_value);
+         },
+         [](node *m, int) { return m; });
 }

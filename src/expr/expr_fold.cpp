@@ -39,8 +39,6 @@ bool compare(expr_opcode op, int cmp) {
   }
 }
 
-int32_t shift_count(const INT128 &k) { return k.to_i32(); }
-
 node *fold_int_binary(node *n) {
   value_record *a = n->n_left->n_value;
   const INT128 &x = a->v_val;
@@ -68,8 +66,8 @@ node *fold_int_binary(node *n) {
       }
       XI_mod(x.b, y.b, r.b);
       break;
-    case EOP_SL: XI_shl(x.b, shift_count(y), r.b); break;
-    case EOP_SR: case EOP_ASR: XI_shr(x.b, shift_count(y), r.b); break;
+    case EOP_SL: XI_shl(x.b, XI_shift_count(y.b), r.b); break;
+    case EOP_SR: case EOP_ASR: XI_shr(x.b, XI_shift_count(y.b), r.b); break;
     case EOP_LT: case EOP_LE: case EOP_GT: case EOP_GE: case EOP_EQ: case EOP_NE:
       r = compare(n->n_op, XI_cmp(x.b, y.b)) ? xi_from_int(1) : INT128{};
       break;

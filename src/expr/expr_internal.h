@@ -9,10 +9,60 @@ void E_parse_error(const char *id, const char *text);   // the first message of 
 void E_parse_failed();                              // a message was given elsewhere
 bool E_nest_enter();                                // false, with a message, when too deep
 void E_nest_leave();
+void E_nest_error();                                // the message of too deep an expression
+
+// Deepest nesting of parentheses and unary operators that the parser (and
+// the pass-1 skim) accepts. Each level costs a few parser frames; under the
+// address sanitizer those are large, and the bound must still leave the
+// stack far from its end.
+constexpr int E_MAX_NESTING = 500;
 
 // The current address as a value: true for a section-relative one (leaf
 // EOP_SPC), false for an absolute one (leaf EOP_ICON).
 bool E_location(value_record *v);
+
+// Visits every node of a tree without recursion, so that a chain of any
+// length is safe: `pre(n, depth)` on the way down, and `post(n, depth)` once
+// both children are done. The node that `post` returns takes n's place in
+// its parent; the result is what took the root's place. Parent links are
+// set on the way down (rewrites leave them stale) and read before `post`,
+// which may build new nodes above n.
+template <class Pre, class Post>
+node *E_walk(node *root, Pre &&pre, Post &&post) {
+  if (!root) return nullptr;
+  root->n_parent = nullptr;
+  node *cur = root;
+  int depth = 0;
+  for (;;) {
+    pre(cur, depth);
+    node *child = cur->n_left ? cur->n_left : cur->n_right;
+    if (child) {
+      child->n_parent = cur;
+      cur = child;
+      ++depth;
+      continue;
+    }
+    for (;;) {
+      node *parent = cur->n_parent;
+      node *r = post(cur, depth);
+      if (!parent) {
+        if (r) r->n_parent = nullptr;
+        return r;
+      }
+      const bool was_left = parent->n_left == cur;
+      (was_left ? parent->n_left : parent->n_right) = r;
+      if (r) r->n_parent = parent;
+      --depth;
+      if (was_left && parent->n_right) {
+        cur = parent->n_right;
+        cur->n_parent = parent;
+        ++depth;
+        break;
+      }
+      cur = parent;
+    }
+  }
+}
 
 // Folding and rewriting of one node whose children are simplified already.
 node *E_fold(node *n);          // step 1: constant arithmetic

@@ -43,8 +43,9 @@ bool parse_reported = false;
 
 // Parentheses and unary operators nest by recursion; a bound keeps absurd
 // input from exhausting the stack.
-constexpr int MAX_NESTING = 1000;
 int nesting = 0;
+constexpr const char *NESTING_ID = "E1300";
+constexpr const char *NESTING_TEXT = "Expression nesting limit exceeded";
 
 // The token kind is in row `level` of trg_prec_tbl.
 bool in_row(int level, uint16_t kind) {
@@ -129,16 +130,25 @@ node *parse_level(int min_level) {
 long EXPR_skim(const plain_token *tokens, size_t count, const char *text) {
   size_t i = 0;
   auto kind = [&] { return i < count ? tokens[i].kind : uint16_t{TK_EOL}; };
-  // Unary operators and parentheses nest in the parser; open ones count.
+  // Nesting is counted as the parser counts it: a unary operator stays open
+  // until its operand ends, and that operand may be a parenthesis; for each
+  // open parenthesis, the unary operators in front of it.
+  std::array<int, E_MAX_NESTING + 1> unary_before;
   int open = 0;
   int unary = 0;
+  int depth = 0;
   for (;;) {
     for (;; ++i) {
-      if (kind() == TK_LPAREN) ++open;
-      else if (in_row(8, kind())) ++unary;
-      else break;
-      if (open + unary >= MAX_NESTING) {
-        error(curline, "E0007", "Expression nesting is too deep");
+      if (kind() == TK_LPAREN) {
+        unary_before[static_cast<size_t>(open++)] = unary;
+        unary = 0;
+      } else if (in_row(8, kind())) {
+        ++unary;
+      } else {
+        break;
+      }
+      if (++depth > E_MAX_NESTING) {
+        error(curline, NESTING_ID, "%s", NESTING_TEXT);
         return -1;
       }
     }
@@ -151,8 +161,12 @@ long EXPR_skim(const plain_token *tokens, size_t count, const char *text) {
         error(curline, "E0200", "Bad term in expression");
         return -1;
     }
+    depth -= unary;
     unary = 0;
-    for (++i; open > 0 && kind() == TK_RPAREN; ++i) --open;
+    for (++i; open > 0 && kind() == TK_RPAREN; ++i) {
+      const int before = unary_before[static_cast<size_t>(--open)];
+      depth -= 1 + before;
+    }
     if (kind() >= OPERATOR_KINDS || binary_levels()[kind()] < 0) break;
     ++i;
   }
@@ -169,9 +183,11 @@ void E_parse_error(const char *id, const char *text) {
 
 void E_parse_failed() { parse_reported = true; }
 
+void E_nest_error() { E_parse_error(NESTING_ID, NESTING_TEXT); }
+
 bool E_nest_enter() {
-  if (nesting >= MAX_NESTING) {
-    E_parse_error("E0007", "Expression nesting is too deep");
+  if (nesting >= E_MAX_NESTING) {
+    E_nest_error();
     return false;
   }
   ++nesting;

@@ -7,9 +7,44 @@
 
 namespace {
 
+// Rewrites build new nodes and simplify them in turn, which can rewrite
+// again below. The chain rules below keep that shallow; the bound is the net
+// for shapes that would still cascade: beyond it the tree is left as it is
+// and the expression fails with one message.
+constexpr int MAX_REWRITE_DEPTH = 200;
+int rewrite_depth = 0;
+bool rewrite_overflow = false;
+
 // A new interior node, simplified in turn.
 node *mk(expr_opcode op, node *left, node *right = nullptr) {
-  return E_simplify_node(E_mktree(op, left, right));
+  node *n = E_mktree(op, left, right);
+  if (rewrite_overflow || rewrite_depth >= MAX_REWRITE_DEPTH) {
+    if (!rewrite_overflow) E_nest_error();
+    rewrite_overflow = true;
+    return n;
+  }
+  ++rewrite_depth;
+  n = E_simplify_node(n);
+  --rewrite_depth;
+  return n;
+}
+
+// x joined to a left-nested chain y = ((b l1 c1) l2 c2) ... : the chain's
+// operands join x one at a time from the bottom up, as
+// step(...step(step(x, b, nullptr), c1, link1)..., cn, linkn), without a
+// recursion along the chain. `is_link` tells the chain's nodes.
+template <class IsLink, class Step>
+node *join_chain(node *x, node *y, IsLink is_link, Step step) {
+  node *bottom = y;
+  while (is_link(bottom->n_left)) {
+    bottom->n_left->n_parent = bottom;
+    bottom = bottom->n_left;
+  }
+  node *acc = step(x, bottom->n_left, nullptr);
+  for (node *link = bottom;; link = link->n_parent) {
+    acc = step(acc, link->n_right, link);
+    if (link == y) return acc;
+  }
 }
 node *mkk(const INT128 &k) { return E_mkint(k); }
 
@@ -23,6 +58,7 @@ INT128 signed_k(const node *pm) {
   return pm->n_op == EOP_ADD ? E_kval(pm->n_right) : -E_kval(pm->n_right);
 }
 bool is_pm_k(const node *n) { return E_is_pm(n) && E_is_k(n->n_right); }
+bool is_mpy(const node *n) { return E_is_binary(n, EOP_MPY); }
 
 node *rewrite_sym(node *n) {
   INT128 off;
@@ -88,7 +124,10 @@ node *rewrite_sub(node *n) {
   if (is_pm_k(x) && is_pm_k(y))                                       // 9
     return mk(EOP_ADD, mk(EOP_SUB, x->n_left, y->n_left), mkk(signed_k(x) - signed_k(y)));
   if (E_is_pm(y))                                                     // 10
-    return mk(y->n_op == EOP_ADD ? EOP_SUB : EOP_ADD, mk(EOP_SUB, x, y->n_left), y->n_right);
+    return join_chain(x, y, E_is_pm, [](node *acc, node *operand, const node *link) {
+      if (!link) return mk(EOP_SUB, acc, operand);
+      return mk(link->n_op == EOP_ADD ? EOP_SUB : EOP_ADD, acc, operand);
+    });
   return n;
 }
 
@@ -99,7 +138,10 @@ node *rewrite_mpy(node *n) {
   if (E_is_k(x)) return mk(EOP_MPY, y, x);                            // 2
   if (E_is_unary_minus(y)) return mk(EOP_SUB, mk(EOP_MPY, x, y->n_left));  // 3
   if (E_is_unary_minus(x)) return mk(EOP_SUB, mk(EOP_MPY, x->n_left, y));
-  if (E_is_binary(y, EOP_MPY)) return mk(EOP_MPY, mk(EOP_MPY, x, y->n_left), y->n_right);  // 4
+  if (E_is_binary(y, EOP_MPY))                                        // 4
+    return join_chain(x, y, is_mpy, [](node *acc, node *operand, const node *) {
+      return mk(EOP_MPY, acc, operand);
+    });
   if (is_k_eq(y, 0)) return y;                                        // 5
   if (is_k_eq(y, 1)) return x;
   if (is_pm_k(x) && E_is_k(y))                                        // 6
@@ -137,14 +179,28 @@ node *rewrite_mod(node *n) {
   return n;
 }
 
+// a + b that stays at the end of the range instead of wrapping: two shift
+// counts far beyond 128 must not add up to a small or negative one.
+INT128 saturating_add(const INT128 &a, const INT128 &b) {
+  INT128 sum = a + b;
+  if (a.is_negative() == b.is_negative() && sum.is_negative() != a.is_negative())
+    return xi_from_bytes(a.is_negative() ? xi_minint : xi_maxint);
+  return sum;
+}
+
 node *rewrite_shift(node *n) {
   node *x = n->n_left, *y = n->n_right;
   if (is_k_eq(y, 0)) return x;
   if (is_k_eq(x, 0)) return x;
   if (E_is_binary(x, n->n_op) && E_is_k(x->n_right) && E_is_k(y))
-    return mk(n->n_op, x->n_left, mkk(E_kval(x->n_right) + E_kval(y)));
-  if (n->n_op == EOP_SL && E_is_binary(x, EOP_MPY) && E_is_k(x->n_right) && E_is_k(y))
-    return mk(EOP_MPY, x->n_left, mkk(E_kval(x->n_right) << E_kval(y).to_i32()));
+    return mk(n->n_op, x->n_left, mkk(saturating_add(E_kval(x->n_right), E_kval(y))));
+  if (n->n_op == EOP_SL && E_is_binary(x, EOP_MPY) && E_is_k(x->n_right) && E_is_k(y)) {
+    INT128 k;
+    xi_error = false;
+    XI_shl(E_kval(x->n_right).b, XI_shift_count(E_kval(y).b), k.b);
+    if (xi_error) warn(curline, "W0001", "Value out of range");
+    return mk(EOP_MPY, x->n_left, mkk(k));
+  }
   return n;
 }
 
@@ -167,7 +223,9 @@ node *rewrite_bitop(node *n) {
     if (E_is_binary(x, op) && E_is_k(x->n_right))
       return mk(op, x->n_left, mkk(apply_bitop(op, E_kval(x->n_right), k)));
   }
-  if (E_is_binary(y, op)) return mk(op, mk(op, x, y->n_left), y->n_right);
+  if (E_is_binary(y, op))
+    return join_chain(x, y, [op](const node *m) { return E_is_binary(m, op); },
+                      [op](node *acc, node *operand, const node *) { return mk(op, acc, operand); });
   if (E_is_binary(x, op) && E_is_k(x->n_right) && !E_is_k(y))
     return mk(op, mk(op, x->n_left, y), x->n_right);
   return n;
@@ -243,16 +301,9 @@ node *E_simplify_node(node *n) {
 }
 
 node *E_simplify(node *n) {
-  if (!n) return nullptr;
-  if (n->n_left) {
-    n->n_left = E_simplify(n->n_left);
-    n->n_left->n_parent = n;
-  }
-  if (n->n_right) {
-    n->n_right = E_simplify(n->n_right);
-    n->n_right->n_parent = n;
-  }
-  node *r = E_simplify_node(n);
-  r->n_parent = nullptr;
-  return r;
+  rewrite_depth = 0;
+  rewrite_overflow = false;
+  // Bottom-up; a left-associative chain is as deep as it is long.
+  node *r = E_walk(n, [](node *, int) {}, [](node *m, int) { return E_simplify_node(m); });
+  return rewrite_overflow ? nullptr : r;
 }

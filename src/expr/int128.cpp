@@ -213,7 +213,8 @@ void XI_notb(const uint8_t *a, uint8_t *r) {
 
 int XI_shl(const uint8_t *a, int n, uint8_t *r) {
   if (n < 0) {
-    XI_shr(a, -n, r);
+    // -INT_MIN does not exist; any count beyond 128 shifts everything out.
+    XI_shr(a, n < -128 ? 129 : -n, r);
     return 1;
   }
   if (n > 128) {
@@ -229,7 +230,7 @@ int XI_shl(const uint8_t *a, int n, uint8_t *r) {
 }
 
 int XI_shr(const uint8_t *a, int n, uint8_t *r) {
-  if (n < 0) return XI_shl(a, n == -2147483647 - 1 ? 129 : -n, r);
+  if (n < 0) return XI_shl(a, n < -128 ? 129 : -n, r);
   u128 v = load(a);
   if (n > XI_size(a)) {
     XI_asg(negative(v) ? xi_negone : xi_zero, r);
@@ -278,6 +279,13 @@ void XI_llutox(uint64_t u, uint8_t *r) { store({0, u}, r); }
 int XI_xtoi(const uint8_t *a, int32_t *i) {
   *i = static_cast<int32_t>(load(a).lo);
   return XI_size(a) > 32;
+}
+
+int32_t XI_shift_count(const uint8_t *a) {
+  const bool neg_a = (a[0] & 0x80) != 0;
+  // A signed 32-bit number: 31 bits of magnitude for a positive one.
+  if (XI_size(a) > (neg_a ? 32 : 31)) return neg_a ? INT32_MIN : INT32_MAX;
+  return static_cast<int32_t>(load(a).lo);
 }
 
 int XI_xtou(const uint8_t *a, uint32_t *u) {

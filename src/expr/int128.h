@@ -38,6 +38,9 @@ void XI_llitox(int64_t i, uint8_t *r);
 void XI_utox(uint32_t u, uint8_t *r);     // zero-extends
 void XI_llutox(uint64_t u, uint8_t *r);
 int XI_xtoi(const uint8_t *a, int32_t *i);     // low 32 bits; 1 if XI_size(a) > 32
+// A shift count: the value itself when it fits 32 bits, else the nearest
+// 32-bit bound, which shifts everything out just the same.
+int32_t XI_shift_count(const uint8_t *a);
 int XI_xtou(const uint8_t *a, uint32_t *u);
 int XI_xtolli(const uint8_t *a, int64_t *i);   // low 64 bits; 1 if XI_size(a) > 64
 int XI_xtollu(const uint8_t *a, uint64_t *u);

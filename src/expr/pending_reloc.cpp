@@ -15,24 +15,19 @@ struct tree_facts {
   bool forward = false;
 };
 
-void scan(const node *n, tree_facts *f) {
-  if (!n) return;
-  if (const value_record *v = n->n_value) {
-    if (!f->reloc && is_relocatable(v)) f->reloc = v;
-    f->has_float = f->has_float || n->n_op == EOP_FCON;
-    f->known = f->known && v->v_known;
-    f->forward = f->forward || v->v_forward;
-    return;
-  }
-  scan(n->n_left, f);
-  scan(n->n_right, f);
+void note_leaf(const value_record *v, expr_opcode op, tree_facts *f) {
+  if (!f->reloc && is_relocatable(v)) f->reloc = v;
+  f->has_float = f->has_float || op == EOP_FCON;
+  f->known = f->known && v->v_known;
+  f->forward = f->forward || v->v_forward;
 }
 
 }  // namespace
 
 void E_reloc(value_record *value, node *n) {
   tree_facts f;
-  scan(n, &f);
+  E_walk(n, [&f](node *m, int) { if (m->n_value) note_leaf(m->n_value, m->n_op, &f); },
+         [](node *m, int) { return m; });
   E_clrval(value);
   value->v_known = f.known;
   value->v_forward = f.forward;

@@ -106,7 +106,7 @@ TEST_F(ExprTest, DeepNestingIsRefusedAndLongChainsWork) {
   std::string deep = std::string(5000, '(') + "1" + std::string(5000, ')');
   value_record *v = eval(deep);
   EXPECT_EQ(v->v_type, 0u);
-  EXPECT_TRUE(shown(out, "E0007", "Expression nesting is too deep")) << out.substr(0, 200);
+  EXPECT_TRUE(shown(out, "E1300", "Expression nesting limit exceeded")) << out.substr(0, 200);
   EXPECT_EQ(num_errors, 1u);
   E_freeval(v);
   v = eval(std::string(5000, '-') + "1");

@@ -246,6 +246,9 @@ TEST_F(ExprTest, RearrangementShapes) {
       {"x << 2 << 3", "(<< x 5)"}, {"(x * 3) << 2", "(* x 12)"}, {"x << 0", "x"}, {"3 | x | 4", "(| x 7)"},
       {"x & 0xF0 & 0x3C", "(& x 48)"}, {"x ^ -1", "(~ x)"}, {"x | -1", "-1"}, {"~~x", "x"},
       {"!x", "0"},   // a relocatable value compares with no constant
+      // A parenthesised chain joins the left side one operand at a time.
+      {"x | (y | 4 | x)", "(| (| (| x y) x) 4)"}, {"x - (y + 1 - x)", "(- (+ (- x y) x) 1)"},
+      {"x * (y * 3 * x)", "(* (* (* x y) 3) x)"}, {"x ^ (y ^ (x ^ y))", "(^ (^ (^ x y) x) y)"},
   };
   for (const shape_case &c : cases) {
     ::testing::internal::CaptureStderr();
@@ -258,6 +261,17 @@ TEST_F(ExprTest, RearrangementShapes) {
     expr_eval_zone.reset();
     expr_lex_done();
   }
+
+  // Counts of two shifts add without wrapping into a small or negative count.
+  const char *max = "0x7fffffffffffffffffffffffffffffff";
+  expr_lex_line(std::string("x << ") + max + " << " + max);
+  ++eval_depth;
+  node *n = E_simplify(E_build({EXPR_MODE_RELOC, 32, 1}));
+  ASSERT_TRUE(n && E_is_binary(n, EOP_SL) && E_is_k(n->n_right));
+  EXPECT_EQ(E_kval(n->n_right), xi_from_bytes(xi_maxint));
+  --eval_depth;
+  expr_eval_zone.reset();
+  expr_lex_done();
 }
 
 }  // namespace

@@ -164,6 +164,48 @@ TEST(Numbers_Int128, ShiftRightIsArithmetic) {
   EXPECT_EQ(V(r), 48);
 }
 
+TEST(Numbers_Int128, ShiftCountsAtTheEndsOfTheIntRange) {
+  // Counts from a source expression reach every int; none may wrap to a
+  // small count or negate out of range.
+  struct {
+    i128 a;
+    int n;
+    i128 shl, shr;
+    bool shl_err, shr_err;
+  } cases[] = {
+      {1, INT32_MAX, 0, 0, true, false},        {-4, INT32_MAX, 0, -1, true, false},
+      {1, INT32_MIN, 0, 0, false, true},        {-4, INT32_MIN, -1, 0, false, true},
+      {1, INT32_MIN + 1, 0, 0, false, true},    {MINI, -127, -1, 0, false, false},
+      {MINI, -128, -1, 0, false, false},        {MINI, -129, -1, 0, false, true},
+      {12, -2, 3, 48, false, false},            {1, 128, 0, 0, false, false},
+  };
+  for (auto &c : cases) {
+    INT128 r;
+    xi_error = false;
+    XI_shl(X(c.a).b, c.n, r.b);
+    EXPECT_EQ(V(r), c.shl) << hex(c.a) << " << " << c.n;
+    EXPECT_EQ(xi_error, c.shl_err) << hex(c.a) << " << " << c.n;
+    xi_error = false;
+    XI_shr(X(c.a).b, c.n, r.b);
+    EXPECT_EQ(V(r), c.shr) << hex(c.a) << " >> " << c.n;
+    EXPECT_EQ(xi_error, c.shr_err) << hex(c.a) << " >> " << c.n;
+  }
+  xi_error = false;
+
+  // Counts beyond 32 bits saturate instead of keeping their low bits.
+  const i128 counts[][2] = {{0, 0},
+                            {-1, -1},
+                            {INT32_MAX, INT32_MAX},
+                            {i128(INT32_MAX) + 1, INT32_MAX},
+                            {0xFFFFFFFFLL, INT32_MAX},
+                            {0x100000001LL, INT32_MAX},
+                            {INT32_MIN, INT32_MIN},
+                            {i128(INT32_MIN) - 1, INT32_MIN},
+                            {MAXI, INT32_MAX},
+                            {MINI, INT32_MIN}};
+  for (auto &c : counts) EXPECT_EQ(XI_shift_count(X(c[0]).b), c[1]) << hex(c[0]);
+}
+
 TEST(Numbers_Int128, SizeAndConversions) {
   const i128 sizes[][2] = {{0, 1},    {-1, 1},   {1, 1},      {2, 2},      {-2, 2},           {255, 8},
                            {-128, 8}, {-129, 9}, {256, 9},    {MAXI, 127}, {MINI, 128},       {0xFFFFFFFFLL, 32},
