@@ -14,6 +14,8 @@
 #   ZQ_FUZZ_RSS   memory limit of one run of zqasm in MB (default 2048)
 #   ZQ_FUZZ_T     time limit of one run in ms (default 2000)
 #   ZQ_FUZZ_SEED_MAX  seeds are cut to this many bytes (default 4096)
+#   ZQ_FUZZ_ARGS  options put before the source, e.g. "--endian=big" (use its
+#                 own ZQ_FUZZ_OUT: a campaign resumes with the options it began with)
 set -eu
 
 # The whole run is one function, read before it starts, so the script can be
@@ -31,6 +33,7 @@ main() {
   rss=${ZQ_FUZZ_RSS:-2048}
   tlimit=${ZQ_FUZZ_T:-2000}
   seed_max=${ZQ_FUZZ_SEED_MAX:-4096}
+  args=${ZQ_FUZZ_ARGS:-}
   work=$out/work
 
   for tool in afl-clang-fast++ afl-fuzz afl-cmin cmake ninja; do
@@ -75,16 +78,16 @@ main() {
     done
     # Keep only the seeds that add coverage.
     AFL_NO_UI=1 afl-cmin -i "$work/seeds.raw" -o "$work/seeds" -m none -t "$tlimit" -- \
-      "$zqasm" @@ "$work/scratch/out.obj" >"$work/cmin.log" 2>&1 ||
+      "$zqasm" $args @@ "$work/scratch/out.obj" >"$work/cmin.log" 2>&1 ||
       { echo "(afl-cmin failed, see $work/cmin.log; using all seeds)"; cp -r "$work/seeds.raw" "$work/seeds"; }
     echo "   $n sources, $(ls "$work/seeds" | wc -l) seeds kept"
     input=$work/seeds
   fi
 
-  echo "== fuzzing for $secs s; findings in $out/default"
+  echo "== fuzzing zqasm $args for $secs s; findings in $out/default"
   set +e
   afl-fuzz -i "$input" -o "$out" -x "$work/zqasm.dict" -m none -t "$tlimit" -V "$secs" -- \
-    "$zqasm" @@ "$work/scratch/out.obj"
+    "$zqasm" $args @@ "$work/scratch/out.obj"
   rc=$?
   set -e
 

@@ -8,18 +8,21 @@ set -eu
 src=${1:-$(cd "$(dirname "$0")/../.." && pwd)}
 
 # One token per line in, one dictionary entry per line out; quotes and
-# backslashes written as \xNN, duplicates dropped, overlong tokens skipped.
+# backslashes written as \xNN (@NL@ stands for a line end), duplicates
+# dropped, overlong tokens skipped.
 emit() {
   awk 'length($0) > 0 && length($0) <= 64 && !seen[$0]++' |
-    sed 's/\\/\\x5c/g; s/"/\\x22/g; s/	/\\x09/g; s/^/"/; s/$/"/'
+    sed 's/\\/\\x5c/g; s/"/\\x22/g; s/	/\\x09/g; s/@NL@/\\x0a/g; s/^/"/; s/$/"/'
 }
 
 {
   # Directive spellings: each row opens with {".NAME", in the tables.
   grep -ho '{"\.[A-Za-z_0-9$]*"' "$src"/src/driver/directive_table.cpp | sed 's/^{"//; s/"$//' |
     while read -r d; do
-      printf '%s\n' "$d"
-      printf '%s\n' "$d" | tr 'A-Z' 'a-z'
+      lower=$(printf '%s' "$d" | tr 'A-Z' 'a-z')
+      printf '%s\n%s\n' "$d" "$lower"
+      # A whole statement start, so an insertion makes a directive, not a name.
+      printf '@NL@\t%s \n' "$lower"
     done
   # Mnemonic and built-in function rows ({"NAME", ...), once their tables are filled.
   for f in "$src"/src/target/arm/*opcodes*.cpp "$src"/src/target/arm/*mnem*.cpp \
