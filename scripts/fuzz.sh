@@ -59,6 +59,9 @@ main() {
   export UBSAN_OPTIONS="halt_on_error=1:abort_on_error=1:symbolize=0:print_stacktrace=0"
   export AFL_SKIP_CPUFREQ=1 AFL_I_DONT_CARE_ABOUT_MISSING_CRASHES=1 AFL_NO_AFFINITY=1
   export AFL_NO_UI=1 AFL_SKIP_CRASHES=1
+  # zqasm catches SIGSEGV, SIGABRT and the like and exits with status 2, so
+  # afl-fuzz never sees the signal: status 2 is what marks a crash.
+  export AFL_CRASH_EXITCODE=2
   # Objects and listings zqasm writes stay in the scratch directory; no file
   # larger than 1 GiB is written even when a source asks for a huge section.
   cd "$work/scratch"
@@ -77,7 +80,8 @@ main() {
       head -c "$seed_max" "$f" >"$work/seeds.raw/$n-$(basename "$f")"
     done
     # Keep only the seeds that add coverage.
-    AFL_NO_UI=1 afl-cmin -i "$work/seeds.raw" -o "$work/seeds" -m none -t "$tlimit" -- \
+    AFL_NO_UI=1 afl-cmin -i "$work/seeds.raw" -o "$work/seeds" \
+      -m none -t "$tlimit" -- \
       "$zqasm" $args @@ "$work/scratch/out.obj" >"$work/cmin.log" 2>&1 ||
       { echo "(afl-cmin failed, see $work/cmin.log; using all seeds)"; cp -r "$work/seeds.raw" "$work/seeds"; }
     echo "   $n sources, $(ls "$work/seeds" | wc -l) seeds kept"
@@ -86,6 +90,8 @@ main() {
 
   echo "== fuzzing zqasm $args for $secs s; findings in $out/default"
   set +e
+  # The input stays afl-fuzz's own .cur_input: zqasm takes ".cur_input" for a
+  # name with an extension and reads it as it is.
   afl-fuzz -i "$input" -o "$out" -x "$work/zqasm.dict" -m none -t "$tlimit" -V "$secs" -- \
     "$zqasm" $args @@ "$work/scratch/out.obj"
   rc=$?

@@ -22,7 +22,9 @@ for f in "$out"/default/crashes/id:* "$out"/default/hangs/id:*; do
   name=$(basename "$(dirname "$f")")-$(basename "$f" | cut -d, -f1 | tr ':' '_')
   rep=$tri/$name.txt
   if [ ! -f "$rep" ]; then
-    (cd "$tri/scratch" && timeout -k 2 "$limit" "$zqasm" "$f" "$tri/scratch/out.obj" >"$rep" 2>&1)
+    # zqasm adds .asm to a name without an extension, as the findings' names are.
+    cp "$f" "$tri/scratch/input.asm"
+    (cd "$tri/scratch" && timeout -k 2 "$limit" "$zqasm" input.asm out.obj >"$rep" 2>&1 </dev/null)
     echo "exit status $?" >>"$rep"
   fi
   # Kind: the sanitizer's summary, a timeout, or the exit status.
