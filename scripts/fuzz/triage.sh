@@ -30,7 +30,9 @@ for f in "$out"/default/crashes/id:* "$out"/default/hangs/id:*; do
   # Kind: the sanitizer's summary, a timeout, or the exit status.
   kind=$(sed -n 's/^SUMMARY: \([A-Za-z]*Sanitizer\): \([^ ]*\).*/\1:\2/p; s/^.*runtime error: \(.*\)/UBSan:\1/p' "$rep" | head -n 1)
   [ -n "$kind" ] || kind=$(tail -n 1 "$rep" | sed 's/exit status 124/timeout/; s/exit status 137/timeout/')
-  frame=$(grep -o '/src/[^ ]*:[0-9]*' "$rep" | grep -v '/src/support/memory' | head -n 1 | sed 's|.*/src/|src/|; s/:[0-9]*$//')
-  fn=$(grep -m1 "/src/$(printf '%s' "${frame#src/}" | sed 's/[.[\*^$/]/\\&/g'):" "$rep" | sed -n 's/^ *#[0-9]* 0x[0-9a-f]* in \([^(]*\).*/\1/p')
-  printf '%-40s %-30s %-28s %s\n' "$kind" "${frame:-?}" "${fn:-?}" "$f"
+  # First stack frame in our sources: "#n 0x... in FUNCTION .../src/FILE:LINE".
+  where=$(awk '/^ *#[0-9]+ 0x[0-9a-f]+ in / && $NF ~ /\/src\// && $NF !~ /support\/memory/ {
+                 f = $NF; sub(/.*\/src\//, "src/", f); sub(/:[0-9]+(:[0-9]+)?$/, "", f)
+                 fn = $4; sub(/\(.*/, "", fn); print f ":" fn; exit }' "$rep")
+  printf '%-44.44s %-50.50s %s\n' "$kind" "${where:-?}" "$f"
 done | sort
