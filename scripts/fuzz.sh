@@ -102,7 +102,7 @@ main() {
   echo
   echo "== summary (afl-fuzz exit status $rc)"
   if [ -f "$stats" ]; then
-    echo "   run time     $(($(stat last_update) - $(stat start_time))) s (this run)"
+    echo "   run time     $(stat run_time) s (campaign so far)"
     echo "   execs        $(stat execs_done) ($(stat execs_per_sec)/s)"
     echo "   paths        $(stat corpus_count)"
     echo "   crashes      $(stat saved_crashes)"
