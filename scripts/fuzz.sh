@@ -77,7 +77,17 @@ main() {
     n=0
     for f in $(find "$root/tests/asm" "$root/tests/fuzz" -name '*.asm' 2>/dev/null | sort); do
       n=$((n + 1))
-      head -c "$seed_max" "$f" >"$work/seeds.raw/$n-$(basename "$f")"
+      seed=$work/seeds.raw/$n-$(basename "$f")
+      head -c "$seed_max" "$f" >"$seed"
+      # A seed that already crashes or hangs (a finding not fixed yet) would
+      # stop afl-fuzz before it starts.
+      st=0
+      timeout -k 1 $((tlimit / 1000 + 1)) "$zqasm" $args "$seed" "$work/scratch/out.obj" \
+        >/dev/null 2>&1 </dev/null || st=$?
+      if [ "$st" -gt 1 ]; then
+        echo "   seed $f left out (exit status $st)"
+        rm -f "$seed"
+      fi
     done
     # Keep only the seeds that add coverage.
     AFL_NO_UI=1 afl-cmin -i "$work/seeds.raw" -o "$work/seeds" \
@@ -111,7 +121,7 @@ main() {
   fi
   echo "   crashes in   $out/default/crashes"
   echo "   hangs in     $out/default/hangs"
-  echo "   replay one:  ASAN_OPTIONS=detect_leaks=0 build-asan/zqasm <file> /tmp/out.obj"
+  echo "   replay them: scripts/fuzz/triage.sh $out   (needs build-asan/zqasm)"
   exit "$rc"
 }
 
