@@ -293,13 +293,13 @@ int run_shell(const std::string &cmd, int limit, bool &killed) {
     pid_t done = waitpid(pid, &status, limit > 0 ? WNOHANG : 0);
     if (done == pid) break;
     if (done < 0 && errno != EINTR) return -1;
-    if (waited_ms >= limit * 1000L) {
+    if (limit > 0 && waited_ms >= limit * 1000L) {
       killed = true;
       kill(-pid, SIGKILL);
       waitpid(pid, &status, 0);
       break;
     }
-    nanosleep(&tick, nullptr);
+    if (limit > 0) nanosleep(&tick, nullptr);
   }
   return status;
 }
