@@ -1,11 +1,17 @@
-// Runs zqasm on every test source under tests/asm and checks messages, exit status,
-// golden outputs and object contents. The format is described in tests/asm/README.md.
+// Runs zqasm on every test source under tests/asm and tests/fuzz and checks messages,
+// exit status, golden outputs and object contents. The format is described in
+// tests/asm/README.md. The sources under tests/fuzz came from fuzzing; a run of one
+// that does not end within fuzz_time_limit is killed and fails, so a hang cannot
+// block the suite.
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <sys/wait.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -255,8 +261,48 @@ std::string replace_all(std::string s, const std::string &from, const std::strin
 
 struct RunResult {
   int status;
+  bool killed = false;  // ran past the time limit
   std::string out, err;
 };
+
+constexpr int fuzz_time_limit = 20;  // seconds
+
+fs::path asm_root() { return fs::path(ZQ_SOURCE_DIR) / "tests" / "asm"; }
+fs::path fuzz_root() { return fs::path(ZQ_SOURCE_DIR) / "tests" / "fuzz"; }
+
+bool is_fuzz_case(const fs::path &p) {
+  auto rel = fs::relative(p, fuzz_root());
+  return !rel.empty() && *rel.begin() != "..";
+}
+
+// Runs a shell command in a process group of its own; with a limit, kills the group
+// when it has not ended within `limit` seconds. Returns the wait status, or -1.
+int run_shell(const std::string &cmd, int limit, bool &killed) {
+  killed = false;
+  pid_t pid = fork();
+  if (pid < 0) return -1;
+  if (pid == 0) {
+    setpgid(0, 0);
+    execl("/bin/sh", "sh", "-c", cmd.c_str(), static_cast<char *>(nullptr));
+    _exit(127);
+  }
+  setpgid(pid, pid);
+  int status = 0;
+  const timespec tick{0, 20'000'000};
+  for (long waited_ms = 0;; waited_ms += 20) {
+    pid_t done = waitpid(pid, &status, limit > 0 ? WNOHANG : 0);
+    if (done == pid) break;
+    if (done < 0 && errno != EINTR) return -1;
+    if (limit > 0 && waited_ms >= limit * 1000L) {
+      killed = true;
+      kill(-pid, SIGKILL);
+      waitpid(pid, &status, 0);
+      break;
+    }
+    if (limit > 0) nanosleep(&tick, nullptr);
+  }
+  return status;
+}
 
 RunResult run(const TestSpec &t, const fs::path &tmp) {
   fs::path obj = tmp / (t.source.stem().string() + ".obj");
@@ -265,8 +311,8 @@ RunResult run(const TestSpec &t, const fs::path &tmp) {
   args = replace_all(args, "%t", tmp.string());
   std::string cmd = "cd '" + t.source.parent_path().string() + "' && '" + ZQ_ZQASM + "' " + args + " >'" +
                     (tmp / "stdout").string() + "' 2>'" + (tmp / "stderr").string() + "'";
-  int rc = std::system(cmd.c_str());
   RunResult r;
+  int rc = run_shell(cmd, is_fuzz_case(t.source) ? fuzz_time_limit : 0, r.killed);
   r.status = WIFEXITED(rc) ? WEXITSTATUS(rc) : 128 + WTERMSIG(rc);
   r.out = read_file(tmp / "stdout");
   r.err = read_file(tmp / "stderr");
@@ -275,19 +321,21 @@ RunResult run(const TestSpec &t, const fs::path &tmp) {
 
 std::vector<fs::path> all_tests() {
   std::vector<fs::path> out;
-  fs::path root = fs::path(ZQ_SOURCE_DIR) / "tests" / "asm";
-  if (!fs::exists(root)) return out;
-  for (auto &e : fs::recursive_directory_iterator(root)) {
-    if (!e.is_regular_file() || e.path().extension() != ".asm") continue;
-    if (e.path().filename().string()[0] == '_') continue;  // pieces copied by other tests
-    out.push_back(e.path());
+  for (const fs::path &root : {asm_root(), fuzz_root()}) {
+    if (!fs::exists(root)) continue;
+    for (auto &e : fs::recursive_directory_iterator(root)) {
+      if (!e.is_regular_file() || e.path().extension() != ".asm") continue;
+      if (e.path().filename().string()[0] == '_') continue;  // pieces copied by other tests
+      out.push_back(e.path());
+    }
   }
   std::sort(out.begin(), out.end());
   return out;
 }
 
 std::string test_name(const fs::path &p) {
-  std::string rel = fs::relative(p, fs::path(ZQ_SOURCE_DIR) / "tests" / "asm").replace_extension("").string();
+  bool fuzz = is_fuzz_case(p);
+  std::string rel = (fuzz ? "fuzz/" : "") + fs::relative(p, fuzz ? fuzz_root() : asm_root()).replace_extension("").string();
   for (char &c : rel)
     if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
   return rel;
@@ -305,6 +353,7 @@ TEST_P(AsmTest, Run) {
   std::string where = src.string();
   std::string context = "\n--- stderr ---\n" + r.err + "--- stdout ---\n" + r.out;
 
+  ASSERT_FALSE(r.killed) << where << ": killed, still running after " << fuzz_time_limit << " s" << context;
   EXPECT_EQ(r.status, t.exit_status) << where << ": exit status" << context;
 
   fs::path golden_err = fs::path(src).replace_extension(".stderr");

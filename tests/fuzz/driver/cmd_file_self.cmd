@@ -1,0 +1,2 @@
+-q
+-@ cmd_file_self.cmd
