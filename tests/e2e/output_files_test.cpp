@@ -111,7 +111,7 @@ TEST_F(OutputFiles, CollisionsAreRefusedBeforeAnythingIsWritten) {
     EXPECT_EQ(files(), before) << c.args;
   }
   // Devices may be named twice: writing them harms nothing.
-  run("-f g.asm /dev/null --profile");
+  run("-f g.asm /dev/null --pbc_output=/dev/null");
   EXPECT_EQ(status, 0) << err;
 }
 
