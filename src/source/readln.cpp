@@ -13,59 +13,69 @@
 
 namespace {
 
-// The line as the C library reads it, up to and with its '\n'.
+// The line being gathered, without its line end; reused from line to line.
 char *raw_line = nullptr;
 size_t raw_capacity = 0;
 
+void grow_raw(size_t need) {
+  if (need <= raw_capacity) return;
+  size_t cap = raw_capacity ? raw_capacity : 400;
+  while (cap < need) cap *= 2;
+  raw_line = static_cast<char *>(saferealloc(raw_line, cap));
+  raw_capacity = cap;
+}
+
 }  // namespace
 
-// The text rules of mygetc on whole lines: Ctrl-Z is dropped, and "\r\n"
-// or a lone '\r' ends the line. A lone '\r' inside the raw line puts the
-// file back just behind it, so the next line starts there.
-char *getline(FHM_FILE *f) {
+// The text rules of mygetc, a byte at a time from the stream's own buffer, so
+// that every line end costs the same and the stream never moves backwards:
+// Ctrl-Z is dropped, and "\r\n" or a lone '\r' ends the line. Zero bytes are
+// kept; *length tells where the line really ends.
+char *getline(FHM_FILE *f, uint32_t *length) {
   // The handle cannot be evicted while one line is read.
   FILE *fp = f ? f->fp() : nullptr;
   if (!fp) return nullptr;
-  const ssize_t got = ::getdelim(&raw_line, &raw_capacity, '\n', fp);
-  if (got <= 0) return nullptr;
-  const auto len = static_cast<size_t>(got);
-  size_t end = raw_line[len - 1] == '\n' ? len - 1 : len;  // the body, without '\n'
-  bool ended = end < len;
-  if (const void *cr = std::memchr(raw_line, '\r', end)) {
-    const auto at = static_cast<size_t>(static_cast<const char *>(cr) - raw_line);
-    const size_t resume = at + 1 < len && raw_line[at + 1] == '\n' ? at + 2 : at + 1;
-    if (resume < len && fseeko(fp, -static_cast<off_t>(len - resume), SEEK_CUR) != 0)
-      error_internal(1, curline, "can't reposition the source file after a carriage return");
-    end = at;
-    ended = true;
-  }
-  auto *buf = static_cast<char *>(safemalloc(end + 2));
   size_t n = 0;
-  if (!std::memchr(raw_line, 26, end)) {
-    std::memcpy(buf, raw_line, end);
-    n = end;
-  } else {
-    for (size_t i = 0; i < end; ++i)
-      if (raw_line[i] != 26) buf[n++] = raw_line[i];
+  bool ended = false;
+  for (;;) {
+    int c = getc_unlocked(fp);
+    if (c == EOF) break;
+    if (c == '\n') {
+      ended = true;
+      break;
+    }
+    if (c == '\r') {
+      c = getc_unlocked(fp);
+      if (c != '\n' && c != EOF) ungetc(c, fp);
+      ended = true;
+      break;
+    }
+    if (c == 26) continue;
+    if (n + 2 > raw_capacity) grow_raw(n + 2);
+    raw_line[n++] = static_cast<char>(c);
   }
-  if (n == 0 && !ended) {  // only Ctrl-Z before the end of the file
-    std::free(buf);
-    return nullptr;
-  }
-  buf[n++] = '\n';
-  buf[n] = '\0';
+  if (n == 0 && !ended) return nullptr;  // nothing, or only Ctrl-Z, before the end
+  auto *buf = static_cast<char *>(safemalloc(n + 2));
+  if (n) std::memcpy(buf, raw_line, n);
+  buf[n] = '\n';
+  buf[n + 1] = '\0';
+  if (length) *length = static_cast<uint32_t>(n + 1);
   sstr_end_pos = -1;
   ++inbuf_uid;
   return buf;
 }
 
+char *getline(FHM_FILE *f) { return getline(f, nullptr); }
+
 char *LEX_readln() {
   for (;;) {
     char *line;
+    uint32_t length = 0;
     if (copytop < 0 && cmdline_includes_pending()) {
       line = include_file_get_line();
+      length = static_cast<uint32_t>(std::strlen(line));
     } else {
-      line = getline(ASSY_SRC);
+      line = getline(ASSY_SRC, &length);
       if (!line) {
         endfile = 1;
         if (pop_copy()) continue;  // the parent goes on
@@ -80,7 +90,9 @@ char *LEX_readln() {
       continue;
     }
     inbuf = line;
-    inbuf_len = static_cast<uint32_t>(std::strlen(line));
+    // A zero byte inside the line stays in it (the lexer reports it), so the
+    // text behind it and the line end are still this line's.
+    inbuf_len = length;
     return line;
   }
 }
