@@ -1,4 +1,5 @@
 // Reading lines: the physical reader and the choice of the input to read from.
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -6,6 +7,7 @@
 #include "driver/diag.h"
 #include "driver/driver.h"
 #include "source/copy.h"
+#include "source/input_files.h"
 #include "support/fhm.h"
 #include "source/lexer.h"
 #include "source/subsym.h"
@@ -32,9 +34,10 @@ void grow_raw(size_t need) {
 // Ctrl-Z is dropped, and "\r\n" or a lone '\r' ends the line. Zero bytes are
 // kept; *length tells where the line really ends.
 char *getline(FHM_FILE *f, uint32_t *length) {
+  if (!f) return nullptr;
   // The handle cannot be evicted while one line is read.
-  FILE *fp = f ? f->fp() : nullptr;
-  if (!fp) return nullptr;
+  FILE *fp = f->fp();
+  if (!fp) SRC_fail(f->name(), errno);  // it could not come back where it stood
   size_t n = 0;
   bool ended = false;
   for (;;) {
@@ -54,6 +57,8 @@ char *getline(FHM_FILE *f, uint32_t *length) {
     if (n + 2 > raw_capacity) grow_raw(n + 2);
     raw_line[n++] = static_cast<char>(c);
   }
+  // A read that fails must not pass for the end of the text.
+  if (!ended && std::ferror(fp)) SRC_fail(f->name(), errno);
   if (n == 0 && !ended) return nullptr;  // nothing, or only Ctrl-Z, before the end
   auto *buf = static_cast<char *>(safemalloc(n + 2));
   if (n) std::memcpy(buf, raw_line, n);
