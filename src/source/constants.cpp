@@ -146,7 +146,7 @@ void LEX_const(token *tk) {
 
   if (chtyp != CH_EOL && ch == '.') {
     float_constant(tk, run);
-    tk->length = static_cast<uint16_t>(chpos - start);
+    tk->length = static_cast<uint32_t>(chpos - start);
     return;
   }
 
@@ -192,7 +192,7 @@ void LEX_const(token *tk) {
   }
   tk->value.ival = v;
   integer_suffix(tk);
-  tk->length = static_cast<uint16_t>(chpos - start);
+  tk->length = static_cast<uint32_t>(chpos - start);
 }
 
 void LEX_string(char quote, std::string *out) {
@@ -224,5 +224,5 @@ void LEX_ccon(token *tk) {
   for (size_t i = 0; i < used; ++i) v |= static_cast<uint32_t>(static_cast<unsigned char>(text[i])) << (8 * i);
   tk->kind = TK_CCON;
   tk->value.ival = xi_from_uint(v);
-  tk->length = static_cast<uint16_t>(used);
+  tk->length = static_cast<uint32_t>(used);
 }

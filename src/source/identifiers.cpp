@@ -83,14 +83,14 @@ token *LEX_ident(int32_t column) {
     ophashtbl *entry = findop(name);
     if (entry && entry->kind == OPTYPE_BUILTIN) {
       token *tk = LEX_newtkn(TK_INTRINSIC, column);
-      tk->length = static_cast<uint16_t>(name.size());
+      tk->length = static_cast<uint32_t>(name.size());
       tk->value.op = entry;
       return tk;
     }
   }
 
   token *tk = LEX_newtkn(TK_IDENT, column);
-  tk->length = static_cast<uint16_t>(name.size());
+  tk->length = static_cast<uint32_t>(name.size());
   LEX_set_text(tk, name);
   return tk;
 }
