@@ -198,8 +198,16 @@ void LEX_const(token *tk) {
 void LEX_string(char quote, std::string *out) {
   std::string &s = *out;
   s.clear();
+  bool zero_seen = false;
   for (;;) {
     getch();
+    // String operands are C strings further on: a zero byte would cut them
+    // short in silence, so it is refused like any byte that has no meaning.
+    if (ch == '\0' && chtyp != CH_EOL) {
+      if (!zero_seen) error(curline, "E0000", "Unrecognized special character");
+      zero_seen = true;
+      continue;
+    }
     if (chtyp == CH_EOL || ch == '\n') {
       error(curline, "E0000", "Missing right quote of string constant");
       break;

@@ -267,12 +267,13 @@ token *LEX_getfname() {
   if (curtk->kind == TK_SCON || curtk->kind == TK_EOL || !curtk->line || curtk->line != curline) return curtk;
   // Unquoted: the raw characters from the token's start up to white space
   // or a comment, which is left for the next token: the line ends in TK_EOL.
+  // A zero byte is left there too, for the lexer to report.
   const int32_t start = curtk->column;
   LEX_droptkn(curtk);
   chpos = start - 1;
   getch();
   std::string name;
-  while (chtyp != CH_SPACE && chtyp != CH_EOL && ch != ';') {
+  while (chtyp != CH_SPACE && chtyp != CH_EOL && ch != ';' && ch != '\0') {
     name += ch;
     getch();
   }
