@@ -15,6 +15,7 @@
 #include "driver/options.h"
 #include "driver/output_files.h"
 #include "source/copy.h"
+#include "source/input_files.h"
 #include "support/fhm.h"
 #include "target/arm/trg.h"
 
@@ -71,20 +72,19 @@ bool may_hold(FILE *fp, std::string_view word) {
 }
 
 // A source that another tool chain produced is refused before anything else.
-void scan_for_foreign_source(const char *src) {
-  FHM_FILE *f = fhm_open(src, "rb");
+// The file stays open, at its start, to be the source of the passes: a pipe
+// is copied once here and cannot be opened a second time.
+FHM_FILE *scan_for_foreign_source(const char *src) {
+  const char *why = "";
+  FHM_FILE *f = SRC_open_main(src, &why);
   if (!f) {
-    const int err = errno;
-    error_user(nullptr, "E1000", "Cannot open source file %s: %s", src, strerror(err));
+    error_user(nullptr, "E1000", "Cannot open source file %s: %s", src, why);
     exit(1);
   }
   FILE *fp = f->fp();
   const bool scan = !fp || may_hold(fp, ".compiler_opts");
-  if (fp) std::rewind(fp);
-  if (!scan) {
-    fhm_close(f);
-    return;
-  }
+  if (!SRC_rewind(f)) SRC_fail(src, errno);
+  if (!scan) return f;
   char piece[401];
   while (myfgets(piece, sizeof piece, f)) {
     if (is_compiler_opts_line(piece)) {
@@ -96,7 +96,8 @@ void scan_for_foreign_source(const char *src) {
       exit(1);
     }
   }
-  fhm_close(f);
+  if (!SRC_rewind(f)) SRC_fail(src, errno);
+  return f;
 }
 
 void open_dependency_file() {
@@ -276,18 +277,13 @@ void get_files() {
   OUT_note_input(assy_src_name);
   claim_outputs();
 
-  scan_for_foreign_source(assy_src_name);
+  FHM_FILE *source = scan_for_foreign_source(assy_src_name);
   TRG_verify_options();
   open_dependency_file();
 
   paths[0] = name_directory(assy_src_name);
 
-  ASSY_SRC = fhm_open(assy_src_name, "rb");
-  if (!ASSY_SRC) {
-    const int err = errno;
-    error_user(nullptr, "E1000", "cannot open source file %s: %s", assy_src_name, strerror(err));
-    exit(1);
-  }
+  ASSY_SRC = source;
   if (opt_on(OPT_ASM_LISTING)) {
     ASSY_LST = open_side_output(out_kind::listing);
     if (!ASSY_LST) {

@@ -21,6 +21,7 @@
 #include "listing/xref.h"
 #include "source/conditional.h"
 #include "source/copy.h"
+#include "source/input_files.h"
 #include "source/lexer.h"
 #include "source/macro.h"
 #include "source/subsym.h"
@@ -62,9 +63,7 @@ void return_to_main_source() {
 
 void rewind_source() {
   return_to_main_source();
-  if (ASSY_SRC) {
-    if (FILE *fp = ASSY_SRC->fp()) fseek(fp, 0, SEEK_SET);
-  }
+  if (ASSY_SRC && !SRC_rewind(ASSY_SRC)) SRC_fail(assy_src_name, errno);
   inbuf = nullptr;
   inbuf_len = 0;
   ch = ' ';

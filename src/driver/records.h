@@ -45,8 +45,8 @@ struct token {
     simul_fval *fval;    // TK_FCON (owned)
     ophashtbl *op;       // after lookup_opcode
   } value;
-  int16_t column;
-  uint16_t length;
+  int32_t column;        // index in the line text, which has no length limit
+  uint32_t length;
   uint8_t usuffix;
   uint8_t lsuffix;
   uint8_t llsuffix;

@@ -67,7 +67,7 @@ void LST_add_emsg(linebuf *line, const char *msg);
 
 // Replaces columns [from, to) of curline's current text with the first
 // `length` characters of text and points the lexer at `from`.
-void LST_expand(short from, short to, std::string text, short length);
+void LST_expand(int32_t from, int32_t to, std::string text, int32_t length);
 
 // Releases the first group; in pass 2 with the listing on it is printed first.
 void LST_dump();

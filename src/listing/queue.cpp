@@ -168,7 +168,7 @@ void LST_add_emsg(linebuf *line, const char *msg) {
   }
 }
 
-void LST_expand(short from, short to, std::string text, short length) {
+void LST_expand(int32_t from, int32_t to, std::string text, int32_t length) {
   if (!curline) {
     error_internal(1, nullptr, "Trying to patch an unattached buffer!");
     return;

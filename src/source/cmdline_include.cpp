@@ -10,6 +10,7 @@
 namespace {
 int16_t saved_count = 0;
 int16_t next_row = 0;
+uint32_t made_uid = 0;  // inbuf_uid of the last made line; 0 for none
 }  // namespace
 
 void cmdline_include_init() {
@@ -27,12 +28,18 @@ char *include_file_get_line() {
   std::string text = "\t";
   text += directive;
   text += "\t\"";
-  text += row.name ? row.name : "";
+  // A quote in the name is doubled, as the string reader wants it.
+  for (const char *p = row.name ? row.name : ""; *p; ++p) {
+    if (*p == '"') text += '"';
+    text += *p;
+  }
   text += "\" ; ";
   text += directive;
   text += " from the command line\n";
   f_lnum = -1;  // made lines do not count in the numbering of the source
   sstr_end_pos = -1;
-  ++inbuf_uid;
+  made_uid = ++inbuf_uid;
   return LEX_strdup(text);
 }
+
+bool cmdline_include_current() { return made_uid != 0 && made_uid == inbuf_uid; }

@@ -146,7 +146,7 @@ void LEX_const(token *tk) {
 
   if (chtyp != CH_EOL && ch == '.') {
     float_constant(tk, run);
-    tk->length = static_cast<uint16_t>(chpos - start);
+    tk->length = static_cast<uint32_t>(chpos - start);
     return;
   }
 
@@ -192,14 +192,22 @@ void LEX_const(token *tk) {
   }
   tk->value.ival = v;
   integer_suffix(tk);
-  tk->length = static_cast<uint16_t>(chpos - start);
+  tk->length = static_cast<uint32_t>(chpos - start);
 }
 
 void LEX_string(char quote, std::string *out) {
   std::string &s = *out;
   s.clear();
+  bool zero_seen = false;
   for (;;) {
     getch();
+    // String operands are C strings further on: a zero byte would cut them
+    // short in silence, so it is refused like any byte that has no meaning.
+    if (ch == '\0' && chtyp != CH_EOL) {
+      if (!zero_seen) error(curline, "E0000", "Unrecognized special character");
+      zero_seen = true;
+      continue;
+    }
     if (chtyp == CH_EOL || ch == '\n') {
       error(curline, "E0000", "Missing right quote of string constant");
       break;
@@ -224,5 +232,5 @@ void LEX_ccon(token *tk) {
   for (size_t i = 0; i < used; ++i) v |= static_cast<uint32_t>(static_cast<unsigned char>(text[i])) << (8 * i);
   tk->kind = TK_CCON;
   tk->value.ival = xi_from_uint(v);
-  tk->length = static_cast<uint16_t>(used);
+  tk->length = static_cast<uint32_t>(used);
 }

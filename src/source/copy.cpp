@@ -95,7 +95,9 @@ void GD_copy(instruct *ir) {
   const char *name = op->value.v_str;
   FHM_FILE *file = search_dirs(name, "rb");
   if (!file) {
-    error(ir->line, "E1000", "Include/Copy file not found or opened");
+    // A file named on the command line has no line of the source to show.
+    if (!cmdline_include_current()) error(ir->line, "E1000", "Include/Copy file not found or opened");
+    else if (pass2) error_user(nullptr, "E1000", "Include/Copy file not found or opened");
     return;
   }
 

@@ -47,6 +47,8 @@ void cmdline_include_init();
 // or null when none is left.
 char *include_file_get_line();
 bool cmdline_includes_pending();
+// The line being read was made for a file of the command line.
+bool cmdline_include_current();
 
 // Both passes of .copy and .include (the parse handler is DP_filename).
 void GD_copy(instruct *ir);

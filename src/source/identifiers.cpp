@@ -75,7 +75,7 @@ token *LEX_ident(int32_t column) {
 
   if (renamed && in_macro && subsym_expand == 1) {
     // The listing shows the scoped name, and the lexer reads it from the line.
-    LST_expand(static_cast<short>(column), static_cast<short>(chpos), name, static_cast<short>(name.size()));
+    LST_expand(column, chpos, name, static_cast<int32_t>(name.size()));
     return nullptr;
   }
 
@@ -83,14 +83,14 @@ token *LEX_ident(int32_t column) {
     ophashtbl *entry = findop(name);
     if (entry && entry->kind == OPTYPE_BUILTIN) {
       token *tk = LEX_newtkn(TK_INTRINSIC, column);
-      tk->length = static_cast<uint16_t>(name.size());
+      tk->length = static_cast<uint32_t>(name.size());
       tk->value.op = entry;
       return tk;
     }
   }
 
   token *tk = LEX_newtkn(TK_IDENT, column);
-  tk->length = static_cast<uint16_t>(name.size());
+  tk->length = static_cast<uint32_t>(name.size());
   LEX_set_text(tk, name);
   return tk;
 }

@@ -45,6 +45,8 @@ extern uint32_t LEX_live_tokens;
 // Reads one line (any length) through mygetc; a fresh malloc'd text that ends
 // in one line feed, or null at the end of the file with nothing read.
 char *getline(FHM_FILE *f);
+// The same; *length gets the length with the line feed (zero bytes count).
+char *getline(FHM_FILE *f, uint32_t *length);
 // Next input line: command-line includes, then ASSY_SRC, popping finished
 // copied files. Null at the end of all input (endfile is then set).
 char *LEX_readln();

@@ -90,8 +90,8 @@ void lookup_opcode() {
     token *rest = LEX_newtkn(TK_OPCODE_REST, curtk->column + static_cast<int32_t>(offset + n));
     rest->line = curtk->line;
     LEX_set_text(rest, std::string_view(base).substr(n));
-    rest->length = static_cast<uint16_t>(base.size() - n);
-    curtk->length = static_cast<uint16_t>(offset + n);
+    rest->length = static_cast<uint32_t>(base.size() - n);
+    curtk->length = static_cast<uint32_t>(offset + n);
     unget_token(&rest);
   }
 

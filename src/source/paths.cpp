@@ -1,11 +1,13 @@
 // Finding copied files: the search path and the directory lists of the environment.
 #include <cctype>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 
 #include "driver/driver.h"
 #include "driver/output_files.h"
 #include "source/copy.h"
+#include "source/input_files.h"
 #include "support/fhm.h"
 
 namespace {
@@ -20,7 +22,9 @@ FHM_FILE *search_dirs(const char *name, const char *mode) {
   if (!name || !*name) return nullptr;
 
   auto opened = [&](const std::string &path) -> FHM_FILE * {
-    FHM_FILE *f = fhm_open(path.c_str(), mode);
+    // Text read in both passes must be a regular file: a directory or a
+    // device is passed over like a file that is not there.
+    FHM_FILE *f = std::strcmp(mode, "rb") == 0 ? SRC_open_copy(path.c_str()) : fhm_open(path.c_str(), mode);
     if (!f) return nullptr;
     OUT_check_input(path.c_str());
     const char *dir = nullptr;

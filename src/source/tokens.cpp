@@ -32,7 +32,7 @@ token *alloc_token() {
 token *LEX_newtkn(uint16_t kind, int32_t column) {
   token *tk = alloc_token();
   tk->kind = kind;
-  tk->column = static_cast<int16_t>(column);
+  tk->column = column;
   tk->line = curline;
   ++LEX_live_tokens;
   return tk;
@@ -40,7 +40,7 @@ token *LEX_newtkn(uint16_t kind, int32_t column) {
 
 namespace {
 
-token *make(uint16_t kind, int32_t column, uint16_t length) {
+token *make(uint16_t kind, int32_t column, uint32_t length) {
   token *tk = LEX_newtkn(kind, column);
   tk->length = length;
   return tk;
@@ -64,7 +64,7 @@ token *bar_identifier(int32_t column) {
   while (std::isalnum(static_cast<unsigned char>(LEX_peek(q))) || LEX_peek(q) == '.') ++q;
   if (LEX_peek(q) != '|' || LEX_peek(q + 1) != '|') return nullptr;
   q += 2;
-  token *tk = make(TK_IDENT, column, static_cast<uint16_t>(q - column));
+  token *tk = make(TK_IDENT, column, static_cast<uint32_t>(q - column));
   LEX_set_text(tk, std::string_view(inbuf + column, static_cast<size_t>(q - column)));
   LEX_setpos(q);
   return tk;
@@ -89,7 +89,7 @@ token *special(int32_t column) {
       static std::string text;
       LEX_string('"', &text);
       LEX_set_text(tk, text);
-      tk->length = static_cast<uint16_t>(text.size());
+      tk->length = static_cast<uint32_t>(text.size());
       return tk;
     }
     case '\'': {
@@ -267,17 +267,18 @@ token *LEX_getfname() {
   if (curtk->kind == TK_SCON || curtk->kind == TK_EOL || !curtk->line || curtk->line != curline) return curtk;
   // Unquoted: the raw characters from the token's start up to white space
   // or a comment, which is left for the next token: the line ends in TK_EOL.
+  // A zero byte is left there too, for the lexer to report.
   const int32_t start = curtk->column;
   LEX_droptkn(curtk);
   chpos = start - 1;
   getch();
   std::string name;
-  while (chtyp != CH_SPACE && chtyp != CH_EOL && ch != ';') {
+  while (chtyp != CH_SPACE && chtyp != CH_EOL && ch != ';' && ch != '\0') {
     name += ch;
     getch();
   }
   curtk = LEX_newtkn(TK_SCON, start);
-  curtk->length = static_cast<uint16_t>(name.size());
+  curtk->length = static_cast<uint32_t>(name.size());
   LEX_set_text(curtk, name);
   return curtk;
 }

@@ -168,10 +168,48 @@ FILE *FILE_HANDLE_MANAGER::reopen(FHM_FILE *f)
 {
     FILE *fp = open_FILE(f);
     if (!fp) return nullptr;
-    fsetpos(fp, &f->saved_pos_m);
-    fseeko(fp, f->saved_offset_m, SEEK_SET);
+    // A file that cannot go back to where it stood is as good as lost: reading
+    // on from elsewhere would be silently wrong.
+    if (fsetpos(fp, &f->saved_pos_m) != 0 || fseeko(fp, f->saved_offset_m, SEEK_SET) != 0) {
+        const int saved = errno;
+        fclose(fp);
+        f->file_m = nullptr;
+        open_m[f->open_slot_m] = nullptr;
+        f->open_slot_m = -1;
+        errno = saved;
+        return nullptr;
+    }
     ++f->reopen_count_m;
     return fp;
+}
+
+FHM_FILE *FILE_HANDLE_MANAGER::adopt(FILE *stream, const char *name, const char *mode)
+{
+    if (!stream || !name || !mode) {
+        errno = EINVAL;
+        return nullptr;
+    }
+    int slot = find_free_slot();
+    while (slot < 0) {
+        if (evict_file_handle() < 0) {
+            errno = EMFILE;
+            return nullptr;
+        }
+        slot = find_free_slot();
+    }
+    if (managed_next_m == managed_capacity_m) {
+        if (has_gaps_m) defragment_file_handles();
+        if (managed_next_m == managed_capacity_m) grow_file_handles();
+    }
+    FHM_FILE *f = new FHM_FILE(this, name, mode);
+    f->file_m = stream;
+    f->persistent_m = true;  // there is no name to come back by
+    f->open_slot_m = slot;
+    open_m[slot] = f;
+    mark_access(f);
+    f->managed_index_m = managed_next_m;
+    managed_m[managed_next_m++] = f;
+    return f;
 }
 
 int FILE_HANDLE_MANAGER::close(FHM_FILE *f)
@@ -259,6 +297,11 @@ void FILE_HANDLE_MANAGER::stats(FILE *stream) const
 FHM_FILE *fhm_open(const char *name, const char *mode)
 {
     return FILE_HANDLE_MANAGER::FHM().open(name, mode);
+}
+
+FHM_FILE *fhm_adopt(FILE *stream, const char *name, const char *mode)
+{
+    return FILE_HANDLE_MANAGER::FHM().adopt(stream, name, mode);
 }
 
 int fhm_close(FHM_FILE *f) { return FILE_HANDLE_MANAGER::FHM().close(f); }

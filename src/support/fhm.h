@@ -49,6 +49,9 @@ public:
     static FILE_HANDLE_MANAGER &FHM();
 
     FHM_FILE *open(const char *name, const char *mode);
+    // Takes over a stream that was opened elsewhere (a file without a name, say);
+    // it is persistent, since it could not be reopened.
+    FHM_FILE *adopt(FILE *stream, const char *name, const char *mode);
     int close(FHM_FILE *f);
     int evict(FHM_FILE *f);
     FILE *fp(FHM_FILE *f);
@@ -92,6 +95,7 @@ private:
 };
 
 FHM_FILE *fhm_open(const char *name, const char *mode);  // null with errno from fopen
+FHM_FILE *fhm_adopt(FILE *stream, const char *name, const char *mode);
 int fhm_close(FHM_FILE *f);
 FHM_FILE *fhm_stdin();
 FHM_FILE *fhm_stdout();
