@@ -1,5 +1,7 @@
 // The list of sections, the current one, and the passage between the passes.
 #include <cstring>
+#include <string>
+#include <unordered_map>
 
 #include "directives/sections.h"
 #include "driver/diag.h"
@@ -89,11 +91,25 @@ section_record *SCN_create(int kind, const char *name) {
   return s;
 }
 
+namespace {
+// Sources made by tools switch among tens of thousands of sections; a walk of
+// the list per switch would make that quadratic. The index and the tail are
+// forgotten whenever the list is emptied.
+std::unordered_map<std::string, section_record *> scn_index;
+section_record *scn_tail = nullptr;
+
+void forget_index_if_empty() {
+  if (seglist) return;
+  scn_index.clear();
+  scn_tail = nullptr;
+}
+}  // namespace
+
 section_record *SCN_query(const char *name) {
+  forget_index_if_empty();
   if (!name) return nullptr;
-  for (section_record *s = seglist; s; s = s->scn_next)
-    if (std::strcmp(s->name(), name) == 0) return s;
-  return nullptr;
+  const auto found = scn_index.find(name);
+  return found == scn_index.end() ? nullptr : found->second;
 }
 
 void SCN_queue(int kind, const char *name) {
@@ -105,9 +121,9 @@ void SCN_queue(int kind, const char *name) {
       error(curline, "E0300", "Cannot redefine this section name");
   } else {
     s = SCN_create(kind, name);
-    section_record **tail = &seglist;
-    while (*tail) tail = &(*tail)->scn_next;
-    *tail = s;
+    (scn_tail ? scn_tail->scn_next : seglist) = s;
+    scn_tail = s;
+    scn_index.emplace(s->name(), s);
   }
   if (curseg) curseg->scn_saved_pc = curpc;
   curpc = s->scn_saved_pc;
