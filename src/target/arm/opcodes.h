@@ -46,11 +46,11 @@ struct mnemonic_row {
 // behind its mnemonic; the encoder of the same statement reads them back.
 struct simd_suffix {
   uint16_t type;   // one bit of simd_type_slot::types; 0x1 for an absent suffix
-  uint32_t size;   // bits, 0 when absent
+  uint32_t size;   // one bit of simd_type_slot::sizes; 0 when absent
 };
 struct stmt_suffixes {
   simd_suffix types[3];
-  uint32_t align;  // bits, 0 when none
+  uint32_t align;  // @16 gives 1, @32 2, @64 4, @128 8, @256 16; 0 when none
 };
 
 // The statement being read.
