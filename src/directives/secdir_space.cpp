@@ -12,12 +12,11 @@
 #include "expr/int128.h"
 #include "expr/symbols.h"
 #include "source/lexer.h"
+#include "target/arm/state.h"
 #include "target/arm/trg.h"
 
 namespace {
 
-constexpr unsigned long ARM_FILL = 0x01A00000;
-constexpr unsigned long THUMB_FILL = 0x46C046C0;
 constexpr int MAX_ALIGN_LOG2 = 15;   // 32K
 
 // The largest block .space and .bes reserve: what is left of the 32-bit
@@ -74,7 +73,7 @@ void GD_align(instruct *ir) {
     LBL_define();
     return;
   }
-  SCN_core_align(static_cast<unsigned long>(n) * 8, cur_state ? THUMB_FILL : ARM_FILL, SCN_trg_align);
+  SCN_core_align(static_cast<unsigned long>(n) * 8, ARM_fill_pattern(cur_state), SCN_trg_align);
   LBL_define();
 }
 

@@ -11,7 +11,8 @@
 // until target/arm/jumps.h declares it
 void VLI_addalign(int power, int32_t pad);
 
-void (*SCN_trg_align)(unsigned long bits) = ARM_trg_align;
+// The target installs its fill function at start-up.
+void (*SCN_trg_align)(unsigned long bits) = nullptr;
 
 namespace {
 
@@ -235,19 +236,4 @@ void SCN_dump_field() {
   SCN_emit_raw((curseg->scn_field_bits + 7) & ~7u, curseg->scn_field_word);
   curseg->scn_field_word = 0;
   curseg->scn_field_bits = 0;
-}
-
-void ARM_trg_align(unsigned long bits) {
-  const uint32_t pattern = cur_state != 0 ? 0x46C046C0u : 0x01A00000u;
-  while (bits) {
-    if (cur_state == 2 && bits >= 32) {
-      SCN_insert_field(16, xi_from_uint(0xEA4F), nullptr, 2, false);
-      SCN_insert_field(16, xi_from_uint(0x0808), nullptr, 2, false);
-      bits -= 32;
-      continue;
-    }
-    const unsigned n = bits < 32 ? static_cast<unsigned>(bits) : 32;
-    SCN_insert_field(n, xi_from_uint(pattern & low_mask(n)), nullptr, 2, false);
-    bits -= n;
-  }
 }

@@ -132,8 +132,6 @@ void SCN_emit_raw(unsigned size, uint32_t word);
 void SCN_insert_zero_words(uint64_t words);
 void SCN_dump_field();
 
-// The fill function of the ARM target: nop patterns of the current state.
-void ARM_trg_align(unsigned long bits);
 
 // ---- The instruction output record ------------------------------------------------
 

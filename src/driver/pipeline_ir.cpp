@@ -17,13 +17,11 @@
 #include "source/macro.h"
 #include "source/ophash.h"
 #include "support/memory.h"
+#include "target/arm/state.h"
 #include "target/arm/trg.h"
 
 
 namespace {
-
-constexpr unsigned long ARM_FILL = 0x01A00000;
-constexpr unsigned long THUMB_FILL = 0x46C046C0;
 
 // The text that curline's tokens are read from.
 const char *current_text(const linebuf *line) {
@@ -124,10 +122,7 @@ instruct *IR_build() {
 
 instruct *IR_parse() {
   // A label on an instruction names the aligned address.
-  if (cur_state == 0)
-    SCN_align(32, ARM_FILL);
-  else
-    SCN_align(16, THUMB_FILL);
+  SCN_align(cur_state == 0 ? 32 : 16, ARM_fill_pattern(cur_state));
   if (LBL_current) LBL_define();
 
   instruct *ir = TRG_parse();

@@ -26,7 +26,7 @@ struct ophashtbl {
   std::string name;      // upper case
 
   const dir_oprec *dir() const { return static_cast<const dir_oprec *>(row); }
-  mnemonic_row *mnemonic() const { return static_cast<mnemonic_row *>(row); }
+  const mnemonic_row *mnemonic() const { return static_cast<const mnemonic_row *>(row); }
   const bifcn_oprec *bif() const { return static_cast<const bifcn_oprec *>(row); }
 };
 

@@ -3,6 +3,8 @@
 // bodies are in pending_glue.cpp and give way when their subsystem lands.
 #include <cstdint>
 
+#include "target/arm/arch.h"
+
 struct IOR_STRUCT;
 struct value_record;
 namespace OFE { class OF_RELOC_TYPE; }
@@ -18,18 +20,6 @@ void RELOC_emit(IOR_STRUCT *ior, value_record *value, uint32_t pc, const OFE::OF
                 short field_size, unsigned ior_offset, unsigned field_offset);
 
 // ---- Target state ------------------------------------------------------------------
-
-// The selected architecture: the value of arm_arch_types, one of ARCH_*.
-enum : uint32_t {
-  ARCH_NONE = 0, ARCH_V4 = 1, ARCH_V5E = 2, ARCH_V6 = 3, ARCH_V6M0 = 4, ARCH_V7A8 = 5,
-  ARCH_V7M3 = 6, ARCH_V7M4 = 7, ARCH_V7R4 = 8, ARCH_V7R5 = 9, ARCH_V8M33 = 10,
-};
-uint32_t arm_arch();
-
-constexpr bool arch_v5e_or_higher(uint32_t arch) { return arch >= ARCH_V5E && arch <= ARCH_V8M33; }
-constexpr bool arch_v6_or_higher(uint32_t arch) { return arch >= ARCH_V6 && arch <= ARCH_V8M33; }
-constexpr bool arch_v7_or_higher(uint32_t arch) { return arch >= ARCH_V7A8 && arch <= ARCH_V8M33; }
-constexpr bool arch_t2_capable(uint32_t arch) { return arch_v7_or_higher(arch) || arch == ARCH_V6M0; }
 
 // Values of --float_support.
 enum : long {

@@ -4,33 +4,57 @@
 #include <cstdint>
 #include <string>
 
-struct simd_type_rule;
-
 // Slots of a mnemonic_row, indexed by encode_state.
 enum : uint32_t {
   STATE_ARM = 0, STATE_THUMB16 = 1, STATE_THUMB2 = 2, STATE_THUMB2_REG = 3,
 };
 
+// Allowed types and sizes of one data-type suffix position.
+struct simd_type_slot {
+  uint32_t types;  // 0x1 absent, 0x2 bare number, 0x4 I, 0x8 F, 0x10 P, 0x20 S, 0x40 U, 0x80 anything
+  uint32_t sizes;  // 0x2 8 bits, 0x4 16, 0x8 32, 0x10 64
+};
+
+struct simd_type_rule {
+  const char *name;
+  simd_type_slot slot[3];
+};
+
+// One encoding family. The rows are shared and constant: what a statement
+// parses (its suffixes, its alignment) lives in stmt_suffixes, never here.
 struct inst_class {
+  const char *name;
   uint16_t ic_id;
   uint32_t ic_shape;
   uint16_t ic_min_ops;
   uint16_t ic_max_ops;
   uint32_t ic_allowed;
   const simd_type_rule *ic_rule;
-  struct { uint16_t type; uint32_t size; } ic_types[3];  // scratch: suffixes of the statement
-  uint32_t ic_align;                                      // scratch: alignment specifier
 };
 
 struct mnemonic_slot {
   uint32_t opcode;
-  inst_class *cls;   // null: no such instruction in this state
+  const inst_class *cls;   // null: no such instruction in this state
 };
 
 struct mnemonic_row {
   const char *name;  // upper case
   mnemonic_slot slot[4];
 };
+
+// The data-type suffixes and alignment specifier of one statement, as read
+// behind its mnemonic; the encoder of the same statement reads them back.
+struct simd_suffix {
+  uint16_t type;   // one bit of simd_type_slot::types; 0x1 for an absent suffix
+  uint32_t size;   // one bit of simd_type_slot::sizes; 0 when absent
+};
+struct stmt_suffixes {
+  simd_suffix types[3];
+  uint32_t align;  // @16 gives 1, @32 2, @64 4, @128 8, @256 16; 0 when none
+};
+
+// The statement being read.
+extern stmt_suffixes cur_suffixes;
 
 // The mnemonic table, ending in a row with a null name.
 extern const mnemonic_row trg_mnemonics[];
@@ -51,6 +75,6 @@ std::string ual_translate_name(const std::string &name);
 // Q, SH, U, UQ, UH; *length_out gets the prefix length. The prefix is kept for
 // the parser.
 bool has_mext_prefix(const char *name, int *length_out);
-// Reads the data-type suffixes (.I32, @128, ...) that follow the mnemonic in
-// the source into the row's class.
+// Starts the statement's suffix record (cur_suffixes) for a row whose class
+// takes data-type suffixes.
 void parse_simd_suffix(const mnemonic_row *row);

@@ -15,9 +15,6 @@ void RELOC_emit(IOR_STRUCT *, value_record *value, uint32_t, const OFE::OF_RELOC
   error(curline, "E0001", "Relocation for %s is not supported yet", name);
 }
 
-// The target state step makes it real; no architecture is selected before it.
-uint32_t arm_arch() { return ARCH_NONE; }
-
 // The Thumb-2 encoder runs trials; no trial exists before it.
 uint8_t suppress_output = 0;
 

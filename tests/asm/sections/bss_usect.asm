@@ -2,7 +2,7 @@
 ; as it was. Without an alignment operand the next free byte is taken,
 ; whatever the size; several .usect of one name share that section.
         .data
-d1:     .byte   1
+dat1:     .byte   1
         .bss    b1, 1
         .bss    b2, 4
 lab     .bss    b3, 8, 8
@@ -10,11 +10,11 @@ lab     .bss    b3, 8, 8
 u1      .usect  ".ubuf", 3
 u2      .usect  ".ubuf", 4, 4
 u3      .usect  ".ubuf", 1
-d2:     .byte   2
+dat2:     .byte   2
 ; SECTION: .data: 01 02
 ; SECTION: .bss: nobits 24
 ; SECTION: .ubuf: nobits 9
-; SYMBOL: d2 00000001 0 OBJECT LOCAL HIDDEN .data
+; SYMBOL: dat2 00000001 0 OBJECT LOCAL HIDDEN .data
 ; SYMBOL: b1 00000000 1 OBJECT LOCAL HIDDEN .bss
 ; SYMBOL: b2 00000001 4 OBJECT LOCAL HIDDEN .bss
 ; SYMBOL: b3 00000008 8 OBJECT LOCAL HIDDEN .bss

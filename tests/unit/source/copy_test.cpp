@@ -86,11 +86,11 @@ TEST_F(LexerTest, LineEndsCtrlZLongLinesAndZeroLines) {
 
 TEST_F(CopyTest, NestedCopiesGetLettersAndReturn) {
   write("a.inc", " .copy \"b.inc\"\na1\n");
-  write("b.inc", "b1\nb2");
+  write("b.inc", "k1\nk2");
   write("c.inc", "c1\n");
   source("m1\n .copy a.inc\nm2\n .include c.inc\nm3\n");
   const std::vector<Word> expect = {
-      {"m1", ' ', 1}, {"b1", 'B', 1}, {"b2", 'B', 2}, {"a1", 'A', 2},
+      {"m1", ' ', 1}, {"k1", 'B', 1}, {"k2", 'B', 2}, {"a1", 'A', 2},
       {"m2", ' ', 3}, {"c1", 'C', 1}, {"m3", ' ', 5}};
   EXPECT_EQ(read_all(), expect);
   EXPECT_EQ(num_errors, 0u);
@@ -185,7 +185,7 @@ TEST(ExtractPaths, PrefixedNamesWinAndEntriesAreTrimmed) {
 
 TEST_F(CopyTest, CommandLineIncludesComeFirstInBothPasses) {
   write("a.inc", "a1\n");
-  write("b.inc", "b1\n");
+  write("b.inc", "k1\n");
   char a[] = "a.inc", b[] = "b.inc";
   cmd_line_includes[0] = {a, 0};
   cmd_line_includes[1] = {b, 1};
@@ -215,7 +215,7 @@ TEST_F(CopyTest, CommandLineIncludesComeFirstInBothPasses) {
     pass1 = pass == 1;
     pass2 = pass == 2;
     cmdline_include_init();
-    const std::vector<Word> expect = {{"a1", 'A', 1}, {"b1", 'B', 1}, {"m1", ' ', 1}};
+    const std::vector<Word> expect = {{"a1", 'A', 1}, {"k1", 'B', 1}, {"m1", ' ', 1}};
     EXPECT_EQ(read_all(), expect);
     EXPECT_EQ(num_errors, 0u);
   }
