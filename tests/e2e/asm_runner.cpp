@@ -14,7 +14,6 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <set>
 #include <sstream>
@@ -22,18 +21,11 @@
 #include <string_view>
 #include <vector>
 
-#include "elf_reader.h"
+#include "zq_dir_fixture.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string read_file(const fs::path &p) {
-  std::ifstream in(p, std::ios::binary);
-  std::ostringstream ss;
-  ss << in.rdbuf();
-  return ss.str();
-}
 
 std::string trim(std::string s) {
   size_t b = s.find_first_not_of(" \t\r\n");
@@ -190,7 +182,7 @@ std::vector<Message> parse_messages(const std::string &err) {
 TestSpec parse_spec(const fs::path &src) {
   TestSpec t;
   t.source = src;
-  std::istringstream in(read_file(src));
+  std::istringstream in(slurp(src));
   std::string ln;
   int n = 0;
   while (std::getline(in, ln)) {
@@ -314,8 +306,8 @@ RunResult run(const TestSpec &t, const fs::path &tmp) {
   RunResult r;
   int rc = run_shell(cmd, is_fuzz_case(t.source) ? fuzz_time_limit : 0, r.killed);
   r.status = WIFEXITED(rc) ? WEXITSTATUS(rc) : 128 + WTERMSIG(rc);
-  r.out = read_file(tmp / "stdout");
-  r.err = read_file(tmp / "stderr");
+  r.out = slurp(tmp / "stdout");
+  r.err = slurp(tmp / "stderr");
   return r;
 }
 
@@ -359,10 +351,10 @@ TEST_P(AsmTest, Run) {
   fs::path golden_err = fs::path(src).replace_extension(".stderr");
   fs::path golden_out = fs::path(src).replace_extension(".stdout");
   if (fs::exists(golden_err)) {
-    EXPECT_EQ(r.err, read_file(golden_err)) << where << ": stderr differs";
+    EXPECT_EQ(r.err, slurp(golden_err)) << where << ": stderr differs";
   }
   if (fs::exists(golden_out)) {
-    EXPECT_EQ(r.out, read_file(golden_out)) << where << ": stdout differs";
+    EXPECT_EQ(r.out, slurp(golden_out)) << where << ": stdout differs";
   }
 
   std::vector<Message> got = parse_messages(r.err);
@@ -397,7 +389,7 @@ TEST_P(AsmTest, Run) {
     ASSERT_TRUE(fs::exists(obj)) << where << ": no object written" << context;
     ElfFile elf;
     std::string why;
-    ASSERT_TRUE(elf.load(read_file(obj), why)) << where << ": " << why;
+    ASSERT_TRUE(elf.load(slurp(obj), why)) << where << ": " << why;
     for (const SectionCheck &c : t.sections) {
       const ElfSection *s = elf.section(c.name);
       if (!s) {
@@ -427,7 +419,7 @@ TEST_P(AsmTest, Run) {
     for (std::string reader : {"arm-none-eabi-readelf -a -W", "llvm-readelf --all"}) {
       std::string cmd = reader + " '" + obj.string() + "' >/dev/null 2>'" + (tmp / "reader.err").string() + "'";
       int rc = std::system(cmd.c_str());
-      std::string rerr = read_file(tmp / "reader.err");
+      std::string rerr = slurp(tmp / "reader.err");
       EXPECT_TRUE(rc == 0 && rerr.empty()) << where << ": " << reader << " complains:\n" << rerr;
     }
   }

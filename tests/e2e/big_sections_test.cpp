@@ -1,22 +1,17 @@
 // Big reservations: a run of zeros costs no memory on its way to the file, the
 // bytes around it land where they belong, and counters that would pass 4 GiB
 // are refused with one message.
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
+#include "zq_dir_fixture.h"
 
 namespace fs = std::filesystem;
 
@@ -26,55 +21,11 @@ struct Section {
   uint32_t type, offset, size;
 };
 
-struct Outcome {
-  int status = -1;
-  long max_rss_kib = 0;
-  std::string err;
-};
-
-class BigSections : public ::testing::Test {
+class BigSections : public ZqDirFixture {
  protected:
-  void SetUp() override {
-    char tmpl[] = "/tmp/zq_big_XXXXXX";
-    ASSERT_NE(mkdtemp(tmpl), nullptr);
-    dir_ = tmpl;
-  }
-  void TearDown() override { fs::remove_all(dir_); }
-
-  fs::path path(const std::string &name) const { return dir_ / name; }
-
-  // Assembles `source`; the rusage of this one child gives its peak memory.
-  Outcome assemble(const std::string &source, const std::vector<std::string> &options = {}) {
-    std::ofstream(path("t.asm")) << source;
-    std::vector<std::string> args{ZQ_ZQASM};
-    args.insert(args.end(), options.begin(), options.end());
-    args.push_back(path("t.asm").string());
-    args.push_back(path("t.o").string());
-    std::vector<char *> argv;
-    for (auto &a : args) argv.push_back(a.data());
-    argv.push_back(nullptr);
-
-    Outcome r;
-    const pid_t pid = fork();
-    if (pid == 0) {
-      const int err = open(path("stderr").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-      const int out = open("/dev/null", O_WRONLY);
-      dup2(err, 2);
-      dup2(out, 1);
-      execv(argv[0], argv.data());
-      _exit(127);
-    }
-    int status = 0;
-    struct rusage ru {};
-    if (pid > 0 && wait4(pid, &status, 0, &ru) == pid) {
-      r.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-      r.max_rss_kib = ru.ru_maxrss;
-    }
-    std::ifstream e(path("stderr"));
-    std::stringstream ss;
-    ss << e.rdbuf();
-    r.err = ss.str();
-    return r;
+  ZqRun assemble(const std::string &source, const std::string &options = "") {
+    put("t.asm", source);
+    return zq(options + " t.asm t.o");
   }
 
   // The object's sections by name, read from its headers alone: the
@@ -134,22 +85,11 @@ class BigSections : public ::testing::Test {
     return true;
   }
 
-  fs::path dir_;
 };
-
-// Messages are wrapped to the screen: compare them with blanks joined.
-std::string flat(const std::string &text) {
-  std::string out;
-  for (char c : text) {
-    const bool blank = c == ' ' || c == '\n' || c == '\t';
-    if (!blank || (!out.empty() && out.back() != ' ')) out += blank ? ' ' : c;
-  }
-  return out;
-}
 
 TEST_F(BigSections, QuarterGigabyteOfZerosIsNeverHeldInMemory) {
   const uint64_t size = 0x10000000;
-  const Outcome r = assemble("\t.data\n\t.word 0x11223344\n\t.space 0x10000000\n\t.word 0x55667788\n");
+  const ZqRun r = assemble("\t.data\n\t.word 0x11223344\n\t.space 0x10000000\n\t.word 0x55667788\n");
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(r.err, "");
   // One materialisation would take 256 MiB by itself.
@@ -184,7 +124,7 @@ TEST_F(BigSections, DataAroundSeveralBlocksInBothByteOrders) {
       "\t.byte 9\n";
   for (const char *endian : {"little", "big"}) {
     SCOPED_TRACE(endian);
-    const Outcome r = assemble(source, {std::string("--endian=") + endian});
+    const ZqRun r = assemble(source, std::string("--endian=") + endian);
     ASSERT_EQ(r.status, 0) << r.err;
     const bool big = std::string(endian) == "big";
     const auto all = sections();
@@ -237,9 +177,9 @@ TEST_F(BigSections, CountersThatWouldPassFourGigabytes) {
   };
   for (const Case &c : cases) {
     SCOPED_TRACE(c.source);
-    const Outcome r = assemble(c.source);
+    const ZqRun r = assemble(c.source);
     EXPECT_EQ(r.status, 1);
-    EXPECT_NE(flat(r.err).find(c.message), std::string::npos) << r.err;
+    EXPECT_NE(joined(r.err).find(c.message), std::string::npos) << r.err;
     // One message, and no object.
     EXPECT_EQ(r.err.find("ERROR!"), r.err.rfind("ERROR!")) << r.err;
     EXPECT_FALSE(fs::exists(path("t.o")));
@@ -249,7 +189,7 @@ TEST_F(BigSections, CountersThatWouldPassFourGigabytes) {
 
 TEST_F(BigSections, ReservationsUpToTheLastByteAreAccepted) {
   // A .bss section may reach the last address; its size is recorded, not written.
-  const Outcome r = assemble("\t.bss a, 0xFFFFFFFE\n\t.bss b, 1\n");
+  const ZqRun r = assemble("\t.bss a, 0xFFFFFFFE\n\t.bss b, 1\n");
   ASSERT_EQ(r.status, 0) << r.err;
   const auto all = sections();
   ASSERT_EQ(all.count(".bss"), 1u);
@@ -259,11 +199,11 @@ TEST_F(BigSections, ReservationsUpToTheLastByteAreAccepted) {
 
 TEST_F(BigSections, ObjectThatWouldPassFourGigabytesIsNotWritten) {
   // Each section fits, but the file offsets behind them would wrap.
-  const Outcome r = assemble("\t.data\n\t.word 1\n\t.space 0xFFFFFF00\n\t.word 2\n");
+  const ZqRun r = assemble("\t.data\n\t.word 1\n\t.space 0xFFFFFF00\n\t.word 2\n");
   EXPECT_EQ(r.status, 1);
-  EXPECT_NE(flat(r.err).find("[E1500] value truncated: the object file would be 42949676"), std::string::npos)
+  EXPECT_NE(joined(r.err).find("[E1500] value truncated: the object file would be 42949676"), std::string::npos)
       << r.err;
-  EXPECT_NE(flat(r.err).find("bytes, more than a 32-bit ELF file can address"), std::string::npos) << r.err;
+  EXPECT_NE(joined(r.err).find("bytes, more than a 32-bit ELF file can address"), std::string::npos) << r.err;
   EXPECT_EQ(r.err.find("INTERNAL"), std::string::npos) << r.err;
   EXPECT_FALSE(fs::exists(path("t.o")));
   EXPECT_LT(r.max_rss_kib, 96 * 1024);

@@ -3,28 +3,14 @@
 // statement instead of running out of stack. The sources are generated here.
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
+#include <cstdio>
 #include <regex>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "elf_reader.h"
+#include "zq_dir_fixture.h"
 
 namespace {
-
-namespace fs = std::filesystem;
-
-std::string slurp(const fs::path &p) {
-  std::ifstream in(p, std::ios::binary);
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
 
 // `count` terms joined by `op`: "t op t op ... t".
 std::string chain(const std::string &term, const std::string &op, size_t count) {
@@ -52,39 +38,17 @@ struct LimitsRun {
   std::vector<std::pair<int, std::string>> messages;
 };
 
-class ExprLimits : public ::testing::Test {
+class ExprLimits : public ZqDirFixture {
  protected:
-  void SetUp() override {
-    const auto *info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir_ = fs::temp_directory_path() / ("zqasm_expr_limits_" + std::to_string(getpid()) + "_" + info->name());
-    fs::remove_all(dir_);
-    fs::create_directories(dir_);
-  }
-  void TearDown() override {
-    if (!HasFailure()) fs::remove_all(dir_);
-  }
-
   LimitsRun assemble(const std::string &source) {
-    const fs::path src = dir_ / "t.asm", obj = dir_ / "t.o";
-    std::ofstream(src, std::ios::binary) << source;
-    const std::string cmd = std::string("'") + ZQ_ZQASM + "' --diag_wrap=off '" + src.string() + "' '" +
-                            obj.string() + "' >'" + (dir_ / "out").string() + "' 2>'" +
-                            (dir_ / "err").string() + "'";
-    LimitsRun r;
-    const int raw = std::system(cmd.c_str());
-    r.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : 128 + WTERMSIG(raw);
-    r.err = slurp(dir_ / "err");
+    put("t.asm", source);
+    const ZqRun run = zq("--diag_wrap=off t.asm t.o");
+    LimitsRun r{run.status, run.err, text_of("t.o"), {}};
     static const std::regex message(R"(at line (\d+): \[([EWR]\d{4})\])");
     for (auto it = std::sregex_iterator(r.err.begin(), r.err.end(), message); it != std::sregex_iterator(); ++it)
       r.messages.emplace_back(std::stoi((*it)[1]), (*it)[2]);
-    ElfFile elf;
-    std::string why;
-    if (fs::exists(obj) && elf.load(slurp(obj), why))
-      if (const ElfSection *s = elf.section(".text")) r.text = elf.hex_bytes(*s);
     return r;
   }
-
-  fs::path dir_;
 };
 
 // The little-endian bytes of a 32-bit word, as hex_bytes spells them.

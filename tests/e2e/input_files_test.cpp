@@ -2,69 +2,26 @@
 // with a message: line ends, zero bytes, pipes, directories and devices, long names.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
+#include <vector>
 
-#include "elf_reader.h"
+#include "zq_dir_fixture.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-std::string slurp(const fs::path &p) {
-  std::ifstream in(p, std::ios::binary);
-  std::ostringstream ss;
-  ss << in.rdbuf();
-  return ss.str();
-}
-
-void spit(const fs::path &p, const std::string &bytes) {
-  std::ofstream out(p, std::ios::binary);
-  out << bytes;
-}
-
-struct Outcome {
-  int status;
-  std::string err;
-};
-
-class InputFiles : public ::testing::Test {
+// Every run must leave TMPDIR empty.
+class InputFiles : public ZqDirFixture {
  protected:
-  void SetUp() override {
-    const auto *info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir_ = fs::temp_directory_path() / ("zq_input_" + std::to_string(getpid()) + "_" + info->name());
-    fs::remove_all(dir_);
-    fs::create_directories(dir_ / "tmp");
-  }
-  void TearDown() override { fs::remove_all(dir_); }
-
-  // Runs a shell command line in the test directory; ZQ stands for the assembler.
-  // TMPDIR points into the test directory, so that nothing may be left there.
-  Outcome sh(const std::string &cmd) {
-    const std::string line = "cd '" + dir_.string() + "' && ZQ='" + ZQ_ZQASM + "' TMPDIR='" +
-                             (dir_ / "tmp").string() + "' && export TMPDIR && " + cmd + " 2>err.txt >out.txt";
-    const int rc = std::system(line.c_str());
-    Outcome r{WIFEXITED(rc) ? WEXITSTATUS(rc) : -1, slurp(dir_ / "err.txt")};
-    EXPECT_TRUE(fs::is_empty(dir_ / "tmp")) << cmd;
+  ZqRun sh(const std::string &cmd) {
+    ZqRun r = ZqDirFixture::sh(cmd);
+    EXPECT_TRUE(fs::is_empty(tmp_dir())) << cmd;
     return r;
   }
-  Outcome zq(const std::string &args) { return sh("\"$ZQ\" " + args); }
-
-  std::string text_of(const std::string &obj) {
-    ElfFile elf;
-    std::string why;
-    if (!elf.load(slurp(dir_ / obj), why)) return "no object: " + why;
-    const ElfSection *s = elf.section(".text");
-    return s ? elf.hex_bytes(*s) : "no .text";
-  }
-
-  fs::path dir_;
+  ZqRun zq(const std::string &args) { return sh("\"$ZQ\" " + args); }
 };
 
 // The text of a literal, zero bytes included.
@@ -83,13 +40,13 @@ TEST_F(InputFiles, LineEndsOfEveryKindReadAsLineFeeds) {
   // 100000 lone carriage returns: each line costs the same as with line feeds.
   const std::string lf = words(100000, "\n");
   const std::string cr = words(100000, "\r");
-  spit(dir_ / "lf.asm", lf);
-  spit(dir_ / "cr.asm", cr);
+  put("lf.asm", lf);
+  put("cr.asm", cr);
   // A copied file in CR form, read in both passes.
-  spit(dir_ / "sub.inc", words(3000, "\r"));
-  spit(dir_ / "main_lf.asm", words(10, "\n") + " .copy \"sub_lf.inc\"\n" + words(10, "\n"));
-  spit(dir_ / "sub_lf.inc", words(3000, "\n"));
-  spit(dir_ / "main_cr.asm", words(10, "\r") + " .copy \"sub.inc\"\r" + words(10, "\r"));
+  put("sub.inc", words(3000, "\r"));
+  put("main_lf.asm", words(10, "\n") + " .copy \"sub_lf.inc\"\n" + words(10, "\n"));
+  put("sub_lf.inc", words(3000, "\n"));
+  put("main_cr.asm", words(10, "\r") + " .copy \"sub.inc\"\r" + words(10, "\r"));
 
   // Line ends and Ctrl-Z on both sides of the reader's 64 KiB buffer edges.
   std::string mixed, plain;
@@ -107,54 +64,54 @@ TEST_F(InputFiles, LineEndsOfEveryKindReadAsLineFeeds) {
     plain += body + pad + plain_ends[i % 5];
     ++i;
   }
-  spit(dir_ / "mixed.asm", mixed);
-  spit(dir_ / "plain.asm", plain);
+  put("mixed.asm", mixed);
+  put("plain.asm", plain);
 
   for (const char *name : {"lf", "cr", "main_lf", "main_cr", "mixed", "plain"}) {
-    const Outcome r = zq(std::string(name) + ".asm " + name + ".obj");
+    const ZqRun r = zq(std::string(name) + ".asm " + name + ".obj");
     EXPECT_EQ(r.status, 0) << name << r.err;
     EXPECT_EQ(r.err, "") << name;
   }
   EXPECT_EQ(text_of("cr.obj"), text_of("lf.obj"));
   EXPECT_EQ(text_of("main_cr.obj"), text_of("main_lf.obj"));
   EXPECT_EQ(text_of("mixed.obj"), text_of("plain.obj"));
-  EXPECT_EQ(slurp(dir_ / "cr.asm"), cr);  // inputs untouched
-  EXPECT_EQ(slurp(dir_ / "mixed.asm"), mixed);
+  EXPECT_EQ(get("cr.asm"), cr);  // inputs untouched
+  EXPECT_EQ(get("mixed.asm"), mixed);
 
   // A message in a CR file names the right line, and the line holds no CR.
-  spit(dir_ / "bad.asm", words(70000, "\r") + " .word 1,,2\r .word 3\r");
-  const Outcome r = zq("bad.asm bad.obj");
+  put("bad.asm", words(70000, "\r") + " .word 1,,2\r .word 3\r");
+  const ZqRun r = zq("bad.asm bad.obj");
   EXPECT_EQ(r.status, 1);
   EXPECT_NE(r.err.find("\"bad.asm\", ERROR!   at line 70001: [E0005] Operand missing"), std::string::npos) << r.err;
   EXPECT_EQ(r.err.find('\r'), std::string::npos);
 }
 
 TEST_F(InputFiles, ZeroByteIsReportedAndNeverJoinsLines) {
-  spit(dir_ / "nul.asm", bytes(" .word 1\0 .word 2\n .word 3\n"));
-  Outcome r = zq("nul.asm nul.obj");
+  put("nul.asm", bytes(" .word 1\0 .word 2\n .word 3\n"));
+  ZqRun r = zq("nul.asm nul.obj");
   EXPECT_EQ(r.status, 1);
   EXPECT_NE(r.err.find("at line 1: [E0000] Unrecognized special character"), std::string::npos) << r.err;
   EXPECT_EQ(r.err.find("line 2"), std::string::npos) << r.err;
-  EXPECT_FALSE(fs::exists(dir_ / "nul.obj"));
+  EXPECT_FALSE(fs::exists(path("nul.obj")));
 
   // Strings and file names cannot hold one either.
-  spit(dir_ / "a.inc", " .word 5\n");
-  spit(dir_ / "str.asm", bytes(" .string \"a\0b\0\"\n .copy a.inc\0x\n"));
+  put("a.inc", " .word 5\n");
+  put("str.asm", bytes(" .string \"a\0b\0\"\n .copy a.inc\0x\n"));
   r = zq("str.asm str.obj");
   EXPECT_EQ(r.status, 1);
   for (const char *line : {"line 1", "line 2"})
     EXPECT_NE(r.err.find(std::string(line) + ": [E0000] Unrecognized special character"), std::string::npos) << r.err;
 
   // In a comment a zero byte is only a byte; a line that begins with one is skipped.
-  spit(dir_ / "ok.asm", bytes(" .word 1 ; a\0b\n\0 .word 9\n .byte 7\n"));
+  put("ok.asm", bytes(" .word 1 ; a\0b\n\0 .word 9\n .byte 7\n"));
   r = zq("ok.asm ok.obj");
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(text_of("ok.obj"), "01 00 00 00 07 ");
 }
 
 TEST_F(InputFiles, DirectoriesDevicesAndFifosAreNotCopied) {
-  fs::create_directory(dir_ / "sub");
-  ASSERT_EQ(mkfifo((dir_ / "fifo.inc").c_str(), 0600), 0);
+  fs::create_directory(path("sub"));
+  ASSERT_EQ(mkfifo(path("fifo.inc").c_str(), 0600), 0);
   const std::string src =
       " .word 1\n"
       " .copy \"sub\"\n"
@@ -162,18 +119,18 @@ TEST_F(InputFiles, DirectoriesDevicesAndFifosAreNotCopied) {
       " .copy \"fifo.inc\"\n"
       " .copy sub/\n"
       " .word 2\n";
-  spit(dir_ / "a.asm", src);
-  const Outcome r = zq("a.asm a.obj");
+  put("a.asm", src);
+  const ZqRun r = zq("a.asm a.obj");
   EXPECT_EQ(r.status, 1);
   for (int line : {2, 3, 4, 5})
     EXPECT_NE(r.err.find("\"a.asm\", ERROR!   at line " + std::to_string(line) +
                          ": [E1000] Include/Copy file not found or opened"),
               std::string::npos)
         << line << r.err;
-  EXPECT_EQ(slurp(dir_ / "a.asm"), src);
+  EXPECT_EQ(get("a.asm"), src);
 
   // The same as the main source: refused at once, without a line.
-  Outcome d = zq("sub d.obj");
+  ZqRun d = zq("sub d.obj");
   EXPECT_EQ(d.status, 1);
   EXPECT_NE(d.err.find("ERROR!  : [E1000] Cannot open source file sub.asm: No such file"), std::string::npos) << d.err;
   d = zq("--suppress_asm_extension sub d.obj");
@@ -187,20 +144,20 @@ TEST_F(InputFiles, DirectoriesDevicesAndFifosAreNotCopied) {
 
 TEST_F(InputFiles, PipedSourceAssemblesLikeTheFile) {
   std::string src = words(20000, "\n") + "here: .word here-here+1\n";
-  spit(dir_ / "p.asm", src);
+  put("p.asm", src);
   ASSERT_EQ(zq("p.asm file.obj").status, 0);
 
-  Outcome r = sh("cat p.asm | \"$ZQ\" --suppress_asm_extension /dev/stdin pipe.obj");
+  ZqRun r = sh("cat p.asm | \"$ZQ\" --suppress_asm_extension /dev/stdin pipe.obj");
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(text_of("pipe.obj"), text_of("file.obj"));
 
-  ASSERT_EQ(mkfifo((dir_ / "named.asm").c_str(), 0600), 0);
+  ASSERT_EQ(mkfifo(path("named.asm").c_str(), 0600), 0);
   r = sh("(cat p.asm > named.asm &) && \"$ZQ\" named.asm fifo.obj");
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(text_of("fifo.obj"), text_of("file.obj"));
 
   // Errors name the name given, with the line of the text.
-  spit(dir_ / "bad.asm", " .word 1\n .word 1,,2\n");
+  put("bad.asm", " .word 1\n .word 1,,2\n");
   r = sh("cat bad.asm | \"$ZQ\" --suppress_asm_extension /dev/stdin bad.obj");
   EXPECT_EQ(r.status, 1);
   EXPECT_NE(r.err.find("\"/dev/stdin\", ERROR!   at line 2: [E0005] Operand missing"), std::string::npos) << r.err;
@@ -211,23 +168,18 @@ TEST_F(InputFiles, PipedSourceAssemblesLikeTheFile) {
 }
 
 TEST_F(InputFiles, CommandLineFileNamesHaveNoLineNumber) {
-  spit(dir_ / "q\"x.inc", " .word 7\n");
-  spit(dir_ / "m.asm", " .word 1\n");
-  Outcome r = zq("'--copy_file=q\"x.inc' m.asm m.obj");
+  put("q\"x.inc", " .word 7\n");
+  put("m.asm", " .word 1\n");
+  ZqRun r = zq("'--copy_file=q\"x.inc' m.asm m.obj");
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(text_of("m.obj"), "07 00 00 00 01 00 00 00 ");
 
   r = zq("--include_file=gone.inc --copy_file=sub m.asm m.obj");
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.err.find("line"), std::string::npos) << r.err;
-  std::string::size_type at = 0;
-  int n = 0;
-  while ((at = r.err.find("\"m.asm\", ERROR!  : [E1000] Include/Copy file not found or opened", at)) !=
-         std::string::npos)
-    ++n, ++at;
-  EXPECT_EQ(n, 2) << r.err;
+  EXPECT_EQ(occurrences(r.err, "\"m.asm\", ERROR!  : [E1000] Include/Copy file not found or opened"), 2u) << r.err;
 
-  spit(dir_ / "q\"y.asm", " .word 1\n");
+  put("q\"y.asm", " .word 1\n");
   r = zq("'q\"y.asm'");
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(r.err, "");
@@ -236,14 +188,14 @@ TEST_F(InputFiles, CommandLineFileNamesHaveNoLineNumber) {
 TEST_F(InputFiles, LongNamesAreOrdinarySymbols) {
   for (size_t n : {32768u, 65536u, 100000u}) {
     const std::string name(n, 'L');
-    spit(dir_ / "l.asm", " .word 0\n" + name + ": .word 1\n .word " + name + "-" + name + "+2\n .global " + name +
-                             "\nB" + name + " .equ 5\n .word B" + name + "\n");
-    const Outcome r = zq("l.asm l.obj");
+    put("l.asm", " .word 0\n" + name + ": .word 1\n .word " + name + "-" + name + "+2\n .global " + name +
+                     "\nB" + name + " .equ 5\n .word B" + name + "\n");
+    const ZqRun r = zq("l.asm l.obj");
     EXPECT_EQ(r.status, 0) << n << r.err.substr(0, 200);
     EXPECT_EQ(text_of("l.obj"), "00 00 00 00 01 00 00 00 02 00 00 00 05 00 00 00 ") << n;
     ElfFile elf;
     std::string why;
-    ASSERT_TRUE(elf.load(slurp(dir_ / "l.obj"), why)) << why;
+    ASSERT_TRUE(elf.load(get("l.obj"), why)) << why;
     std::vector<std::string> fields;
     ASSERT_TRUE(elf.symbol_fields(name, fields)) << n;
     EXPECT_EQ(fields[0], "00000004");
@@ -252,8 +204,8 @@ TEST_F(InputFiles, LongNamesAreOrdinarySymbols) {
   // A message far out in a line of megabytes points at its own line.
   std::string wide = " .word ";
   for (int i = 0; i < 500000; ++i) wide += "1,";
-  spit(dir_ / "w.asm", wide + "1\n .byte 1,,2\n");
-  const Outcome r = zq("w.asm w.obj");
+  put("w.asm", wide + "1\n .byte 1,,2\n");
+  const ZqRun r = zq("w.asm w.obj");
   EXPECT_EQ(r.status, 1);
   EXPECT_NE(r.err.find("at line 2: [E0005] Operand missing"), std::string::npos) << r.err.substr(0, 300);
 }

@@ -3,16 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
-#include <sstream>
 #include <string>
+
+#include "zq_dir_fixture.h"
 
 namespace fs = std::filesystem;
 
@@ -21,68 +18,29 @@ namespace {
 constexpr const char *GOOD = " .text\n .word 1\n";
 constexpr const char *BAD = " .text\n .word 1\n bogus\n";
 
-// Wrapped message bodies joined into one line.
-std::string joined(std::string text) {
-  for (size_t p = 0; (p = text.find("\n         ", p)) != std::string::npos;) {
-    const size_t end = text.find_first_not_of(' ', p + 1);
-    text.replace(p, end - p, " ");
-  }
-  return text;
-}
-
-class OutputFiles : public ::testing::Test {
+class OutputFiles : public ZqDirFixture {
 protected:
-  fs::path dir;
   int status = -1;
-  std::string err;
+  std::string err;   // wrapped messages joined
 
   void SetUp() override {
-    const auto *info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir = fs::temp_directory_path() / ("zq_out_" + std::to_string(getpid()) + "_" + info->name());
-    fs::remove_all(dir);
-    fs::create_directories(dir);
+    ZqDirFixture::SetUp();
+    if (HasFatalFailure()) return;
     put("g.asm", GOOD);
   }
-  void TearDown() override {
-    std::error_code ec;
-    fs::permissions(dir, fs::perms::owner_all, ec);
-    fs::remove_all(dir, ec);
-  }
-
-  void put(const std::string &name, const std::string &text) {
-    std::ofstream(dir / name, std::ios::binary) << text;
-  }
-  std::string get(const std::string &name) {
-    std::ifstream in(dir / name, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-  }
-  bool has(const std::string &name) { return fs::exists(fs::symlink_status(dir / name)); }
-  std::set<std::string> files() {
-    std::set<std::string> names;
-    for (const auto &e : fs::directory_iterator(dir)) names.insert(e.path().filename().string());
-    return names;
-  }
-
   void run(const std::string &args) {
-    const std::string cmd = "cd '" + dir.string() + "' && '" ZQ_ZQASM "' " + args + " >/dev/null 2>'" +
-                            (dir / ".stderr").string() + "'";
-    const int rc = std::system(cmd.c_str());
-    status = WIFEXITED(rc) ? WEXITSTATUS(rc) : 128 + WTERMSIG(rc);
-    err = joined(get(".stderr"));
-    fs::remove(dir / ".stderr");
+    const ZqRun r = zq(args);
+    status = r.status;
+    err = joined(r.err);
   }
-  size_t count(const std::string &text) const {
-    size_t n = 0;
-    for (size_t p = err.find(text); p != std::string::npos; p = err.find(text, p + 1)) ++n;
-    return n;
-  }
+  size_t count(const std::string &text) const { return occurrences(err, text); }
 };
 
 TEST_F(OutputFiles, CollisionsAreRefusedBeforeAnythingIsWritten) {
   put("opts.cmd", "--define=X=1\n");
   put("g.prf", GOOD);
-  fs::create_symlink("g.asm", dir / "link.asm");
-  fs::create_hard_link(dir / "g.asm", dir / "hard.asm");
+  fs::create_symlink("g.asm", path("link.asm"));
+  fs::create_hard_link(path("g.asm"), path("hard.asm"));
   const std::set<std::string> before = files();
   const struct {
     const char *args;
@@ -149,32 +107,32 @@ TEST_F(OutputFiles, FailedWritesAreOneMessageAndStatusOne) {
   EXPECT_EQ(files(), std::set<std::string>{"g.asm"});
 
   if (geteuid() != 0) {  // root writes anywhere
-    fs::create_directory(dir / "ro");
-    fs::permissions(dir / "ro", fs::perms::owner_read | fs::perms::owner_exec);
+    fs::create_directory(path("ro"));
+    fs::permissions(path("ro"), fs::perms::owner_read | fs::perms::owner_exec);
     run("g.asm ro/g.obj");
     EXPECT_EQ(status, 1);
     EXPECT_EQ(count("[E1000] Failed to write object file : ro/g.obj: Permission denied"), 1u) << err;
-    fs::permissions(dir / "ro", fs::perms::owner_all);
+    fs::permissions(path("ro"), fs::perms::owner_all);
   }
 }
 
 TEST_F(OutputFiles, AnOlderObjectStaysUntilARunSucceeds) {
   put("bad.asm", BAD);
   put("bad.obj", "OLD");
-  chmod((dir / "bad.obj").c_str(), 0640);
+  chmod(path("bad.obj").c_str(), 0640);
   run("bad.asm");
   EXPECT_EQ(status, 1);
   EXPECT_EQ(get("bad.obj"), "OLD");
 
   // A good run replaces it, through a link too, and keeps its mode.
   put("bad.asm", GOOD);
-  fs::create_symlink("bad.obj", dir / "via.obj");
+  fs::create_symlink("bad.obj", path("via.obj"));
   run("bad.asm via.obj");
   EXPECT_EQ(status, 0) << err;
-  EXPECT_TRUE(fs::is_symlink(dir / "via.obj"));
+  EXPECT_TRUE(fs::is_symlink(path("via.obj")));
   EXPECT_EQ(get("bad.obj").substr(0, 4), "\x7f" "ELF");
   struct stat st;
-  ASSERT_EQ(stat((dir / "bad.obj").c_str(), &st), 0);
+  ASSERT_EQ(stat(path("bad.obj").c_str(), &st), 0);
   EXPECT_EQ(st.st_mode & 0777, 0640u);
   EXPECT_EQ(files(), (std::set<std::string>{"bad.asm", "bad.obj", "g.asm", "via.obj"}));
 }
@@ -217,7 +175,7 @@ TEST_F(OutputFiles, CommandFiles) {
   EXPECT_TRUE(has("g.obj"));
 
   // A missing command file is told once; errors before pass 1 don't last.
-  fs::remove(dir / "g.obj");
+  fs::remove(path("g.obj"));
   run("-@missing.cmd g.asm");
   EXPECT_EQ(status, 0);
   EXPECT_EQ(count("[E1000] Cannot open command file 'missing.cmd': No such file or directory"), 1u) << err;
