@@ -12,7 +12,6 @@
 #include "expr/int128.h"
 #include "expr/symbols.h"
 #include "source/lexer.h"
-#include "target/arm/state.h"
 #include "target/arm/trg.h"
 
 namespace {
@@ -73,7 +72,7 @@ void GD_align(instruct *ir) {
     LBL_define();
     return;
   }
-  SCN_core_align(static_cast<unsigned long>(n) * 8, ARM_fill_pattern(cur_state), SCN_trg_align);
+  SCN_core_align(static_cast<unsigned long>(n) * 8, TRG_fill_pattern(cur_state), SCN_trg_align);
   LBL_define();
 }
 

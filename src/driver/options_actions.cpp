@@ -11,7 +11,6 @@
 #include "driver/options_impl.h"
 #include "support/diagnostic.h"
 #include "support/memory.h"
-#include "target/arm/state.h"
 #include "target/arm/trg.h"
 
 uint8_t big_endian_data = 0;

@@ -17,7 +17,6 @@
 #include "source/macro.h"
 #include "source/ophash.h"
 #include "support/memory.h"
-#include "target/arm/state.h"
 #include "target/arm/trg.h"
 
 
@@ -122,7 +121,7 @@ instruct *IR_build() {
 
 instruct *IR_parse() {
   // A label on an instruction names the aligned address.
-  SCN_align(cur_state == 0 ? 32 : 16, ARM_fill_pattern(cur_state));
+  SCN_align(cur_state == 0 ? 32 : 16, TRG_fill_pattern(cur_state));
   if (LBL_current) LBL_define();
 
   instruct *ir = TRG_parse();

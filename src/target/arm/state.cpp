@@ -53,6 +53,8 @@ void TRG_set_code_state(long bits) {
 
 void TRG_set_ual_mode() { ual_mode = 1; }
 
+uint32_t TRG_fill_pattern(uint32_t state) { return state == 0 ? ARM_FILL : THUMB_FILL; }
+
 int TRG_get_version(const char *text) {
   // The option layer hands the item as written, possibly behind blanks.
   while (text && *text == ' ') ++text;
@@ -93,7 +95,7 @@ void TRG_reset() {
 }
 
 void ARM_trg_align(unsigned long bits) {
-  const uint32_t pattern = ARM_fill_pattern(cur_state);
+  const uint32_t pattern = TRG_fill_pattern(cur_state);
   while (bits) {
     if (cur_state == 2 && bits >= 32) {
       // mov.w r8, r8

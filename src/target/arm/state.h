@@ -12,13 +12,6 @@ extern int32_t max_branch_chain_length;
 // and Thumb (two `mov r8, r8`).
 constexpr uint32_t ARM_FILL = 0x01A00000u;
 constexpr uint32_t THUMB_FILL = 0x46C046C0u;
-constexpr uint32_t ARM_fill_pattern(uint32_t state) { return state == 0 ? ARM_FILL : THUMB_FILL; }
-
-// --code_state and --thumb_state: 16 selects Thumb (Thumb-2 where the
-// architecture has it), anything else ARM; sets cur_state and def_state.
-void TRG_set_code_state(long bits);
-// --ual: unified syntax on.
-void TRG_set_ual_mode();
 
 // Reports "Illegal Cortex-M instruction/directive" on a Cortex-M architecture.
 void error_if_cortex_m(struct linebuf *line);

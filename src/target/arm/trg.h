@@ -50,6 +50,13 @@ void TRG_version_predefs();
 void TRG_init_regsyms();
 // prepare_pass2: cur_state back to def_state; signal_state_change set.
 void TRG_reset();
+// --code_state and --thumb_state: 16 selects Thumb (Thumb-2 where the
+// architecture has it), anything else ARM; sets cur_state and def_state.
+void TRG_set_code_state(long bits);
+// --ual: unified syntax on.
+void TRG_set_ual_mode();
+// The word that pads code of a state: two Thumb no-ops, or the ARM one.
+uint32_t TRG_fill_pattern(uint32_t state);
 
 // ---- Statements --------------------------------------------------------------
 

@@ -79,9 +79,9 @@ TEST_F(TargetState, LaterArchitectureCorrectsTheCodeState) {
 }
 
 TEST_F(TargetState, FillPatterns) {
-  EXPECT_EQ(ARM_fill_pattern(0), 0x01A00000u);
-  EXPECT_EQ(ARM_fill_pattern(1), 0x46C046C0u);
-  EXPECT_EQ(ARM_fill_pattern(2), 0x46C046C0u);
+  EXPECT_EQ(TRG_fill_pattern(0), 0x01A00000u);
+  EXPECT_EQ(TRG_fill_pattern(1), 0x46C046C0u);
+  EXPECT_EQ(TRG_fill_pattern(2), 0x46C046C0u);
 }
 
 TEST_F(TargetState, UnifiedNamesAndParallelPrefixes) {
