@@ -59,8 +59,9 @@ bool skip_blank_lines() {
   return !endfile;
 }
 
-// Released statement records, kept for reuse.
-std::vector<instruct *> spare_records;
+// Released statement records, kept for reuse. Never destroyed: the records
+// stay reachable to the end, where the process exit reclaims them.
+std::vector<instruct *> &spare_records = *new std::vector<instruct *>;
 
 }  // namespace
 
