@@ -101,16 +101,25 @@ int FILE_HANDLE_MANAGER::find_free_slot()
     return -1;
 }
 
-FILE *FILE_HANDLE_MANAGER::open_FILE(FHM_FILE *f)
+// A free slot, closing the least recently used handles until one appears;
+// -1 with errno EMFILE when nothing more can be closed.
+int FILE_HANDLE_MANAGER::claim_slot()
 {
     int slot = find_free_slot();
     while (slot < 0) {
         if (evict_file_handle() < 0) {
             errno = EMFILE;
-            return nullptr;
+            return -1;
         }
         slot = find_free_slot();
     }
+    return slot;
+}
+
+FILE *FILE_HANDLE_MANAGER::open_FILE(FHM_FILE *f)
+{
+    const int slot = claim_slot();
+    if (slot < 0) return nullptr;
     FILE *fp;
     for (;;) {
         fp = fopen64(f->name_m, f->mode_m);
@@ -189,14 +198,8 @@ FHM_FILE *FILE_HANDLE_MANAGER::adopt(FILE *stream, const char *name, const char 
         errno = EINVAL;
         return nullptr;
     }
-    int slot = find_free_slot();
-    while (slot < 0) {
-        if (evict_file_handle() < 0) {
-            errno = EMFILE;
-            return nullptr;
-        }
-        slot = find_free_slot();
-    }
+    const int slot = claim_slot();
+    if (slot < 0) return nullptr;
     if (managed_next_m == managed_capacity_m) {
         if (has_gaps_m) defragment_file_handles();
         if (managed_next_m == managed_capacity_m) grow_file_handles();

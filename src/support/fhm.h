@@ -75,6 +75,7 @@ private:
     }
     FILE *open_FILE(FHM_FILE *f);
     int find_free_slot();
+    int claim_slot();
     int evict_file_handle();
     FILE *reopen(FHM_FILE *f);
     void defragment_file_handles();
