@@ -73,6 +73,8 @@ enum : uint16_t {
   OP_NONE = 0,
   OP_CPREG = 2, OP_REGLIST, OP_SHIFTREGR, OP_SHIFTREGI, OP_PSR, OP_PSRF, OP_CPID,
   OP_DIRECT, OP_INDIRECT, OP_INDPREE, OP_INDPRES, OP_INDPOSTE, OP_INDPOSTS,
+  OP_INDOPT, OP_SREG, OP_VFPSYS, OP_DREG, OP_QREG, OP_DLIST, OP_QLIST, OP_CPSFLAGS,
+  OP_MSYSREG, OP_APSRF,
   OP_ICON = 128, OP_SCON = 130, OP_FCON = 131, OP_SYMBOL = 132, OP_REGISTER = 133,
   OP_LOCLABEL = 201,
   OP_STRUCT = 600, OP_UNION = 601, OP_SUREF = 602, OP_SUMEM = 603,
@@ -91,7 +93,13 @@ struct operand {
   value_record value;
   operand *next;
   operand *prev;
-  // ARM parser fields are added with the instruction parser.
+  // Instruction operands (the target's parser fills these).
+  uint16_t op_mods;     // bit 0 a trailing '^', bit 1 a trailing '!'; field mask of PSR kinds
+  int16_t op_lane;      // -2 no index, -1 "[]", else the lane index
+  uint8_t op_reg;       // register; first of a list; base of an address
+  uint8_t op_reg2;      // last of a list; offset register of an address
+  uint8_t op_shift;     // 0 LSL, 1 LSR, 2 ASR, 3 ROR, 4 RRX, 5 none
+  uint8_t op_neg;       // the offset (register or value) is subtracted
 };
 
 constexpr int IR_MAX_SLOTS = 10;
@@ -104,7 +112,10 @@ struct instruct {
   operand *oprnds[IR_MAX_SLOTS];
   linebuf *line;
   IOR_STRUCT ior{{0, 0, 0, 0}, 0, {' '}};   // the statement's output bits
-  // Condition, size and state flags of the instruction parser come with it.
+  // Instruction statements (the target's parser fills these).
+  uint8_t ia_cond;         // condition code, 14 (always) when none is written
+  uint32_t ia_flags;       // letters of the mnemonic's suffix; IT: the T/E groups
+  char ia_prefix[3];       // prefix of a parallel add/subtract ("S", "UQ", ...), or empty
 
   const dir_oprec *dir() const { return static_cast<const dir_oprec *>(record); }
 };
