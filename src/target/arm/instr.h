@@ -60,3 +60,14 @@ inline uint32_t ia_opcode(const instruct *ir) { return ia_row(ir)->slot[encode_s
 
 // Operand n (0 based), or null.
 inline operand *ia_op(const instruct *ir, int n) { return n < IR_MAX_SLOTS ? ir->oprnds[n] : nullptr; }
+
+// The open IT block: "IT" and its letters right after the IT statement, then
+// one letter for each instruction still in the block ("TTE" after ITTE's IT);
+// empty outside a block. TRG_encode erases one character per instruction.
+constexpr unsigned IT_STRING_SIZE = 16;
+extern char cur_it_string[IT_STRING_SIZE];
+extern uint8_t cur_it_cc;   // the IT condition
+
+// Translation of a unified floating-point statement (VADD.F32 ...) to an old
+// VFP row by its operand kinds and data types; false leaves it to NEON.
+bool simd_to_vfp_rewrite(instruct *ir);
