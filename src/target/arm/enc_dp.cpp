@@ -4,7 +4,6 @@
 
 #include "driver/diag.h"
 #include "driver/driver.h"
-#include "ofe/object_file.h"
 #include "ofe/of_reloc_type.h"
 #include "target/arm/arch.h"
 #include "target/arm/checks.h"
@@ -29,8 +28,8 @@ struct dp_swap_row {
   uint32_t partner;
 };
 constexpr dp_swap_row dp_swaps[] = {
-    {0x800000, 4},    // ADD -> SUB
-    {0x400000, 2},    // SUB -> ADD
+    {0x800000, 2},    // ADD -> SUB
+    {0x400000, 4},    // SUB -> ADD
     {0x1500000, 11},  // CMP -> CMN
     {0x1700000, 10},  // CMN -> CMP
 };
@@ -108,8 +107,8 @@ constexpr reg_operand clz_regs[] = {
 void movw_relocation(instruct *ir, operand *op, bool top) {
   const bool t2 = OPR_thumb2();
   const uint32_t id = top ? (t2 ? OFE::OFR_ARM_THM_MOVT_ABS : OFE::OFR_ARM_MOVT_ABS)
-                                 : (t2 ? OFE::OFR_ARM_THM_MOVW_ABS_NC : OFE::OFR_ARM_MOVW_ABS_NC);
-  const OFE::OF_RELOC_TYPE *type = ofile ? ofile->reloc_type(id) : nullptr;
+                         : (t2 ? OFE::OFR_ARM_THM_MOVW_ABS_NC : OFE::OFR_ARM_MOVW_ABS_NC);
+  const OFE::OF_RELOC_TYPE *type = ARM_reloc_type(id);
   if (!type) {
     error(ir->line, "E0001", "Address must be defined in the current section");
     op->value.v_val = xi_from_uint(0);
