@@ -33,8 +33,5 @@
         mov     pc, lr
         moveq   r0, #0x10000
         addne   r0, r0, #1
-        movwgt  r0, #0xabcd
-        movt    r0, #0xffff
-        movw    r1, #0
         mvnne   r3, r4, lsr r5
-; SECTION: .text: ff 00 01 e2 ff 2f 33 e2 ff 42 45 e2 00 60 67 e2 01 00 41 e2 01 0c 41 e2 04 20 83 e2 0a 80 a9 e0 8e b0 dc e0 22 00 e1 e0 c2 03 81 e1 e2 0f c1 e1 62 00 21 e0 12 03 81 e0 32 03 41 e0 52 03 61 e0 72 03 01 e0 01 00 10 e3 02 00 31 e1 01 00 70 e3 01 0c 52 e3 04 01 53 e1 34 02 01 e3 ff 1c a0 e3 ff 2f 0f e3 00 30 e0 e3 85 41 b0 e1 0e f0 a0 e1 01 08 a0 03 01 00 80 12 cd 0b 0a c3 ff 0f 4f e3 00 10 00 e3 34 35 e0 11
+; SECTION: .text: ff 00 01 e2 ff 2f 33 e2 ff 42 45 e2 00 60 67 e2 01 00 41 e2 01 0c 41 e2 04 20 83 e2 0a 80 a9 e0 8e b0 dc e0 22 00 e1 e0 c2 03 81 e1 e2 0f c1 e1 62 00 21 e0 12 03 81 e0 32 03 41 e0 52 03 61 e0 72 03 01 e0 01 00 10 e3 02 00 31 e1 01 00 70 e3 01 0c 52 e3 04 01 53 e1 34 02 01 e3 ff 1c a0 e3 ff 2f 0f e3 00 30 e0 e3 85 41 b0 e1 0e f0 a0 e1 01 08 a0 03 01 00 80 12 34 35 e0 11

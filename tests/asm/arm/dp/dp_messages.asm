@@ -1,4 +1,5 @@
-; Messages of data processing and MOVW/MOVT in ARM state on v7.
+; Messages of data processing in ARM state on v7, with those of a MOV that
+; becomes MOVW.
 ; RUN: %s %o -v7A8
         .text
 label:  add     r0, r1, #0x102          ;! E0004 Immediate not representable as a rotated 8 bit immediate
@@ -9,11 +10,6 @@ label:  add     r0, r1, #0x102          ;! E0004 Immediate not representable as 
         mov     r0, #0x12345            ;! E0004 Immediate cannot be greater than 16-bits
         movs    r0, #0x1234             ;! W0004 Invalid instruction modifier(s) ignored
         mov     pc, #0x1234             ;! E0004 Specifying R15 as an operand is illegal
-        movw    r0, #0x10000            ;! E0004 Immediate cannot be greater than 16-bits
-        movt    r0, #-1                 ;! E0004 Immediate cannot be greater than 16-bits
-        movw    pc, #1                  ;! E0004 Specifying R15 as an operand is illegal
-        movw    r0, r1                  ;! E0004 The second operand must be an immediate value or symbol
-        movt    #0, #1                  ;! E0004 Destination operand Rd must be a register
         add     r0, r1, r2, ror #32     ;! E0004 Rotate count must lie between 1 and 31
         add     r0, r1, r2, lsl #32     ;! E0004 Shift amount exceeds its maximum value
         add     r0, r1, label           ;! E0004 Illegal operand

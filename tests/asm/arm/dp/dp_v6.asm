@@ -1,8 +1,5 @@
-; Below v7 a MOV immediate with no rotated form stays an error, and MOVW and
-; MOVT are refused.
+; Below v7 a MOV immediate with no rotated form stays an error.
 ; RUN: %s %o -v6
         .text
         mov     r0, #0x1234             ;! E0004 Immediate not representable as a rotated 8 bit immediate
         mov     r0, #-1                 ;! E0004 Immediate not representable as a rotated 8 bit immediate
-        movw    r0, #0x1234             ;! E0002 Instruction only available in V7 and higher
-        movt    r1, #0x5678             ;! E0002 Instruction only available in V7 and higher
