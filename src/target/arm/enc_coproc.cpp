@@ -157,7 +157,10 @@ void put_transfer_address(instruct *ir, operand *addr) {
       ENC_set(ir, LDST_P | (up ? LDST_U : 0));
       ENC_put(ir, 16, 4, REG_PC);
       ENC_put(ir, 0, 8, words);
-      break;
+      operand pc_base{};
+      pc_base.op_reg = REG_PC;
+      check_r4_stc_ldc_errata(ir, &pc_base);
+      return;
     }
     default:
       error(ir->line, "E0004", "Illegal operand");
