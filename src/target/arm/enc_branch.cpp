@@ -4,7 +4,6 @@
 
 #include "directives/sections.h"
 #include "driver/diag.h"
-#include "driver/driver.h"
 #include "driver/records.h"
 #include "expr/symbols.h"
 #include "target/arm/arch.h"
