@@ -87,6 +87,8 @@ void lookup_opcode() {
     size_t n = 0;
     entry = prefix_search(base, &n);
     if (!entry) return;  // a label or an unknown word stays an identifier
+    // VADDL.S16, VCVTEQ.F32: the suffixes follow the whole word, read before it is cut.
+    if (is_mnemonic(entry) && has_type_suffixes(entry)) parse_simd_suffix(entry->mnemonic());
     token *rest = LEX_newtkn(TK_OPCODE_REST, curtk->column + static_cast<int32_t>(offset + n));
     rest->line = curtk->line;
     LEX_set_text(rest, std::string_view(base).substr(n));
