@@ -58,6 +58,7 @@ void simd_vfp_init() {
 bool simd_to_vfp_rewrite(instruct *ir) {
   const mnemonic_row *row = ia_row(ir);
   if (!row || !row->name) return false;
+  if (simd_name_table.empty()) simd_vfp_init();  // a tool that skipped the start-up
   auto [first, last] = simd_name_table.equal_range(row->name);
   if (first == last) return false;
 
