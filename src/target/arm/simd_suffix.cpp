@@ -68,14 +68,18 @@ simd_suffix decode(const char *text, size_t n) {
 
 // The line from the character behind the mnemonic's word (curtk), which the
 // lexer ended at the first dot; empty when that word is not found there.
+// The word is the token's whole text: the lookup may already have cut the
+// token's length to the row name (VMOVL to VMOV).
 std::string_view suffix_text() {
-  if (!curtk || curtk->kind != TK_IDENT || !inbuf || curtk->line != curline || curtk->column < 0) return {};
+  if (!curtk || curtk->kind != TK_IDENT || !curtk->value.sval || !inbuf || curtk->line != curline ||
+      curtk->column < 0)
+    return {};
   const char *word = curtk->value.sval;
-  const auto column = static_cast<uint32_t>(curtk->column);
-  const uint32_t start = column + curtk->length;
-  if (!word || start > inbuf_len || std::strlen(word) != curtk->length) return {};
-  for (uint32_t i = 0; i < curtk->length; ++i)
-    if (LEX_upper(inbuf[column + i]) != LEX_upper(word[i])) return {};
+  const auto column = static_cast<size_t>(curtk->column);
+  const size_t start = column + std::strlen(word);
+  if (start > inbuf_len) return {};
+  for (size_t i = column; i < start; ++i)
+    if (LEX_upper(inbuf[i]) != LEX_upper(word[i - column])) return {};
   return {inbuf + start, inbuf_len - start};
 }
 
@@ -157,9 +161,13 @@ void parse_simd_suffix(const mnemonic_row *row) {
   const auto start = static_cast<int32_t>(text.data() - inbuf);
   const auto end = start + static_cast<int32_t>(taken);
   if (chpos >= start && chpos < end) LEX_setpos(end);
-  while (availtkn && availtkn->line == curtk->line && availtkn->column >= start && availtkn->column < end) {
-    token *t = availtkn;
-    availtkn = t->next;
-    LEX_droptkn(t);
+  for (token **link = &availtkn; *link;) {
+    token *t = *link;
+    if (t->line == curtk->line && t->column >= start && t->column < end) {
+      *link = t->next;
+      LEX_droptkn(t);
+    } else {
+      link = &t->next;
+    }
   }
 }

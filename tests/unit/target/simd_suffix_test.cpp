@@ -1,6 +1,7 @@
 // Data-type suffixes and alignment read behind a mnemonic, as the opcode
 // lookup sees a statement's first word.
 #include "../source/lexer_fixture.h"
+#include "source/lexer_internal.h"
 #include "source/ophash.h"
 #include "target/arm/opcodes.h"
 #include "target/arm/simd_vfp.h"
@@ -80,6 +81,18 @@ TEST_F(SimdSuffix, GoodSuffixesAndTheReaderBehindThem) {
   expect_suffixes({{SIMD_T_U, SIMD_SZ_16}});
   EXPECT_EQ(statement("\tVADDEQ.F64 D0"), (strings{"EQ", "D0"}));
   expect_suffixes({{SIMD_T_F, SIMD_SZ_64}});
+
+  // The same when the lookup has cut the word and pushed its rest back first.
+  source("\tVMULL.P8 Q0\n");
+  next_token();
+  token *rest = LEX_newtkn(TK_OPCODE_REST, curtk->column + 4);
+  LEX_set_text(rest, "L");
+  curtk->length = 4;
+  unget_token(&rest);
+  parse_simd_suffix(findop("VMUL")->mnemonic());
+  expect_suffixes({{SIMD_T_P, SIMD_SZ_8}});
+  EXPECT_STREQ(next_token()->value.sval, "L");
+  EXPECT_STREQ(next_token()->value.sval, "Q0");
 
   // Without a suffix every slot is absent again.
   EXPECT_EQ(statement("\tVMRS R0, FPSCR"), (strings{"R0", ",", "FPSCR"}));
