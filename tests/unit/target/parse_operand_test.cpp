@@ -186,7 +186,7 @@ TEST_F(Operands, Addresses) {
   EXPECT_EQ(op(2)->kind, OP_INDOPT);
   EXPECT_EQ(value_of(op(2)), 5);
   cur_suffixes.align = 0;
-  ASSERT_NE(parse("vld1 {d0}, [r1@64], r2"), nullptr);
+  ASSERT_NE(parse("vld1.8 {d0}, [r1@64], r2"), nullptr);
   EXPECT_EQ(op(1)->kind, OP_INDPOSTS);
   EXPECT_EQ(cur_suffixes.align, 4u);
   EXPECT_EQ(screen(), "");
@@ -233,12 +233,12 @@ TEST_F(Operands, RegisterLists) {
   ASSERT_NE(parse("vpush {d8-d15}"), nullptr);
   EXPECT_EQ(op(0)->kind, OP_DLIST);
   EXPECT_EQ(static_cast<uint32_t>(value_of(op(0))), 0xFF00u);
-  ASSERT_NE(parse("vld1 {q1, q2}, [r0]"), nullptr);
+  ASSERT_NE(parse("vld1.8 {q1, q2}, [r0]"), nullptr);
   EXPECT_EQ(op(0)->kind, OP_QLIST);
   EXPECT_EQ(op(0)->op_reg2, 2);
-  ASSERT_NE(parse("vld1 {d0[2], d1[2]}, [r0]"), nullptr);
+  ASSERT_NE(parse("vld1.8 {d0[2], d1[2]}, [r0]"), nullptr);
   EXPECT_EQ(op(0)->op_lane, 2);
-  ASSERT_NE(parse("vld1 {d0[]-d1[]}, [r0]"), nullptr);
+  ASSERT_NE(parse("vld1.8 {d0[]-d1[]}, [r0]"), nullptr);
   EXPECT_EQ(op(0)->op_lane, -1);
   ASSERT_NE(parse("fldmias r0, {s1-s3}"), nullptr);
   EXPECT_EQ(op(1)->kind, OP_REGLIST);
