@@ -33,11 +33,12 @@ void encode_ldm(instruct *ir) {
   ENC_put(ir, 16, 4, base->op_reg);
   if (if_am(ir->ia_flags & ia_class(ir)->ic_allowed) == AM_NONE) ENC_set(ir, LDM_IA);
 
-  if (list->kind != OP_REGLIST) {
+  // A list of S registers above S15 has bits no core list can have.
+  if (list->kind != OP_REGLIST || (ENC_value(list) & ~int64_t{0xFFFF}) != 0) {
     error(ir->line, "E0004", "Register list required");
     return;
   }
-  const uint32_t mask = static_cast<uint32_t>(ENC_value(list)) & 0xFFFF;
+  const uint32_t mask = static_cast<uint32_t>(ENC_value(list));
   const uint32_t base_bit = 1u << base->op_reg;
   const bool writeback = (base->op_mods & MOD_WRITEBACK) != 0;
   if (writeback) {

@@ -4,8 +4,8 @@
         .text
         LDM     #1, {R1}                ;! E0004 Base operand Rn must be a register
         LDM     PC, {R1}                ;! E0004 Base register (Rn) cannot be R15 (PC)
-        LDM     R0^, {R1}               ;! W0000 Invalid operand modifiers ignored
         LDM     R0, R1                  ;! E0004 Register list required
+        STM     R0, {S16, S17}          ;! E0004 Register list required
         STM     R0!, {R1}^              ;! E0004 Cannot specify both base write-back and S bit for this instruction
         LDM     R0!, {R1}^              ;! E0004 Cannot specify both base write-back and S bit for this instruction
         LDM     R0!, {R1, PC}^
