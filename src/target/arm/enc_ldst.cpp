@@ -90,13 +90,8 @@ void put_reg_offset(instruct *ir, const transfer_form &form, const operand *addr
     if (addr->op_shift != SHIFT_NONE) warn(ir->line, "W0000", "Shift amount ignored");
     ENC_put(ir, 0, 4, addr->op_reg2);
   } else {
-    // The shared field encoder reads a shifted-register operand: Rm and the
-    // shift of the address, as such an operand would carry them.
-    operand shifted = *addr;
-    shifted.kind = OP_SHIFTREGI;
-    shifted.op_reg = addr->op_reg2;
     ENC_set(ir, WORD_REG_OFFSET);
-    ENC_put(ir, 0, 12, ENC_shifted_reg_imm(ir, &shifted));
+    ENC_put(ir, 0, 12, ENC_shifted_reg_imm(ir, addr));
   }
   LDST_put_sign(ir, addr, 0);
 }

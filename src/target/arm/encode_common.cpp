@@ -77,8 +77,10 @@ bool ENC_rotated_imm(uint32_t value, uint32_t *field) {
 }
 
 uint32_t ENC_shifted_reg_imm(instruct *ir, const operand *op) {
-  const uint32_t rm = op->op_reg;
-  if (op->kind != OP_SHIFTREGI || op->op_shift == SHIFT_NONE) return rm;
+  // An address with a register offset carries Rm beside its base.
+  const bool address = op->kind == OP_INDPRES || op->kind == OP_INDPOSTS;
+  const uint32_t rm = address ? op->op_reg2 : op->op_reg;
+  if ((op->kind != OP_SHIFTREGI && !address) || op->op_shift == SHIFT_NONE) return rm;
   if (op->op_shift == SHIFT_RRX) return rm + (SHIFT_ROR << 5);
   int64_t amount = ENC_value(op);
   const uint32_t type = op->op_shift;
