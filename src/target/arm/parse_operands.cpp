@@ -206,7 +206,7 @@ bool plain_register(value_record *v) {
   const char c = p < inbuf_len ? inbuf[p] : '\n';
   const char after = p + 1 < inbuf_len ? inbuf[p + 1] : '\n';
   const bool ends = c == ',' || c == '\n' || c == '\r' || c == ';' || c == ']' || c == '}' || c == '[' ||
-                    (c == '!' && after != '=');
+                    c == '^' || (c == '!' && after != '=');
   if (!ends) return false;
   const symbol_record *sym = SYM_query(std::string_view(curtk->value.sval));
   if (!sym || sym->sym_value.v_type != VT_REG) return false;
@@ -262,7 +262,7 @@ operand *expression(instruct *ir) {
   }
   if (v->v_type == VT_COPRID) {
     operand *op = operand_from(v, OP_CPID);
-    op->op_reg = static_cast<uint8_t>(op->value.v_val.to_u32() & 0xFF);
+    op->op_reg = op->op_reg2 = static_cast<uint8_t>(op->value.v_val.to_u32() & 0xFF);
     return op;
   }
   if (v->v_type == VT_UNDEFSYM) {

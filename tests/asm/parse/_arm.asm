@@ -1,4 +1,4 @@
-; The parser's messages in ARM state, each at its line and once. Run by
+; The parser's messages in ARM state, each at its line. Run by
 ; tests/e2e/parse_messages_test.cpp, which lets the encoder add its own.
 ; RUN: %s %o -v7A8
         .text
@@ -31,4 +31,5 @@
         vld1    {d0}, [r1@48]   ;! E0002 Illegal Alignment
         setend  middle          ;! E0003 Invalid operand. Must be BE or LE.
         cpsid   a_b             ;! E0003 Operand must be a CPS flag concatenation.
+        ldm     r0^, {r1}
         add     r0, r1, r2
