@@ -196,40 +196,73 @@ operand *cps_flags() {
   return op;
 }
 
+// A register named alone, with nothing behind it that an expression could
+// take: its value is copied from the symbol, without the expression engine
+// and its heap record. Most operands are such registers.
+bool plain_register(value_record *v) {
+  if (!at(TK_IDENT) || !curtk->value.sval || availtkn || !inbuf || chpos < 0 || ch == '.') return false;
+  uint32_t p = static_cast<uint32_t>(chpos);
+  while (p < inbuf_len && (inbuf[p] == ' ' || inbuf[p] == '\t')) ++p;
+  const char c = p < inbuf_len ? inbuf[p] : '\n';
+  const char after = p + 1 < inbuf_len ? inbuf[p + 1] : '\n';
+  const bool ends = c == ',' || c == '\n' || c == '\r' || c == ';' || c == ']' || c == '}' || c == '[' ||
+                    c == '^' || (c == '!' && after != '=');
+  if (!ends) return false;
+  const symbol_record *sym = SYM_query(std::string_view(curtk->value.sval));
+  if (!sym || sym->sym_value.v_type != VT_REG) return false;
+  E_clrval(v);
+  E_cpy2val(v, &sym->sym_value);
+  next_token();
+  return true;
+}
+
+// A register operand of the value's class, with its lane or shift; the
+// operand takes over the value's parts.
+operand *register_operand(instruct *ir, value_record *v, int fields) {
+  uint8_t reg_class = 0;
+  uint32_t number = 0;
+  PRS_register_of(*v, &reg_class, &number);
+  const uint16_t kind = kind_of_register(reg_class);
+  if (kind == OP_NONE) {
+    error_internal(0, here(), "Encountered unexpected register type");
+    E_freeparts(v);
+    PRS_skip_operand();
+    return PRS_failed();
+  }
+  if (kind == OP_CPREG) {
+    number &= 15;
+    v->v_val = xi_from_uint(number);
+  }
+  operand *op = PRS_new_operand(kind);
+  op->value = *v;
+  if (number < 256) op->op_reg = op->op_reg2 = static_cast<uint8_t>(number);
+  if (kind == OP_PSRF || kind == OP_APSRF) op->op_mods = static_cast<uint16_t>(fields < 0 ? 0 : fields);
+  if ((kind == OP_DREG || kind == OP_QREG) && at(TK_LBRACKET) && !lane_index(op)) {
+    IR_free_oprnd(op);
+    return PRS_failed();
+  }
+  if (kind == OP_REGISTER && at(TK_COMMA)) PRS_shift(ir, op, false);
+  return op;
+}
+
 // An operand without '#': a register (with shift or lane), a status
 // register, a coprocessor number, or a target or integer expression.
 operand *expression(instruct *ir) {
   const int fields = cut_psr_fields();
+  value_record reg;
+  if (fields == -2 && plain_register(&reg)) return register_operand(ir, &reg, fields);
   const expr_parse_state_t es{EXPR_MODE_ANY, 32, 1};
   value_record *v = EXPR_eval(es);
   if (!v->v_type || fields == -1) return fail_value(v);
 
   if (v->v_type == VT_REG) {
-    uint8_t reg_class = 0;
-    uint32_t number = 0;
-    PRS_register_of(*v, &reg_class, &number);
-    const uint16_t kind = kind_of_register(reg_class);
-    if (kind == OP_NONE) {
-      error_internal(0, here(), "Encountered unexpected register type");
-      return fail_value(v);
-    }
-    if (kind == OP_CPREG) {
-      number &= 15;
-      v->v_val = xi_from_uint(number);
-    }
-    operand *op = operand_from(v, kind);
-    if (number < 256) op->op_reg = op->op_reg2 = static_cast<uint8_t>(number);
-    if (kind == OP_PSRF || kind == OP_APSRF) op->op_mods = static_cast<uint16_t>(fields < 0 ? 0 : fields);
-    if ((kind == OP_DREG || kind == OP_QREG) && at(TK_LBRACKET) && !lane_index(op)) {
-      IR_free_oprnd(op);
-      return PRS_failed();
-    }
-    if (kind == OP_REGISTER && at(TK_COMMA)) PRS_shift(ir, op, false);
-    return op;
+    reg = *v;
+    std::free(v);
+    return register_operand(ir, &reg, fields);
   }
   if (v->v_type == VT_COPRID) {
     operand *op = operand_from(v, OP_CPID);
-    op->op_reg = static_cast<uint8_t>(op->value.v_val.to_u32() & 0xFF);
+    op->op_reg = op->op_reg2 = static_cast<uint8_t>(op->value.v_val.to_u32() & 0xFF);
     return op;
   }
   if (v->v_type == VT_UNDEFSYM) {

@@ -10,6 +10,7 @@
 #include "driver/options.h"
 #include "target/arm/arch.h"
 #include "target/arm/glue_pending.h"
+#include "target/arm/instr.h"
 #include "target/arm/opcodes.h"
 #include "target/arm/simd_vfp.h"
 #include "target/arm/trg.h"
@@ -94,11 +95,18 @@ void TRG_initialize() {
   SCN_trg_align = ARM_trg_align;
 }
 
-void TRG_initialize_pass1() {}
+// The syntax at the start of pass 1: pass 2 starts with it again, as with
+// the code state, and without an IT block left open at the end of pass 1,
+// so that both passes read the source alike.
+static uint8_t pass_ual_mode = 1;
+
+void TRG_initialize_pass1() { pass_ual_mode = ual_mode; }
 void TRG_initialize_pass2() {}
 
 void TRG_reset() {
   cur_state = def_state;
+  ual_mode = pass_ual_mode;
+  cur_it_string[0] = '\0';
   signal_state_change = 1;
 }
 

@@ -10,7 +10,6 @@
 #include "driver/driver.h"
 #include "driver/options.h"
 #include "driver/pipeline.h"
-#include "expr/int128.h"
 #include "expr/symbols.h"
 #include "listing/listing.h"
 #include "source/copy.h"
@@ -23,8 +22,7 @@
 namespace {
 
 void drop_tokens() {
-  while (availtkn) {
-    token *t = availtkn;
+  while (token *t = availtkn) {
     availtkn = t->next;
     t->next = nullptr;
     LEX_droptkn(t);
@@ -33,9 +31,12 @@ void drop_tokens() {
   curtk = nullptr;
 }
 
-}  // namespace
+void release(instruct *&ir) {
+  if (ir) IR_free(ir);
+  ir = nullptr;
+}
 
-int32_t value_of(const operand *op) { return op->value.v_val.to_i32(); }
+}  // namespace
 
 void ParseTest::SetUp() {
   delete global_opts;
@@ -45,13 +46,11 @@ void ParseTest::SetUp() {
   init_predefs(trg_ucpredefs);
   init_predefs(trg_lcpredefs);
   TRG_init_regsyms();
-  num_errors = num_warnings = 0;
   target("7A8", 0);
 }
 
 void ParseTest::TearDown() {
-  if (ir_) IR_free(ir_);
-  ir_ = nullptr;
+  release(ir_);
   screen();
   drop_tokens();
   LST_clear();
@@ -59,11 +58,8 @@ void ParseTest::TearDown() {
   ASSY_SRC = nullptr;
   if (!path_.empty()) unlink(path_.c_str());
   SYM_init();
-  arm_arch_types.set(nullptr);
-  cur_state = def_state = 0;
+  target(nullptr, 0);
   encode_state = 0;
-  ual_mode = 1;
-  cur_it_string[0] = '\0';
 }
 
 void ParseTest::target(const char *arch, uint32_t state, bool ual) {
@@ -75,8 +71,7 @@ void ParseTest::target(const char *arch, uint32_t state, bool ual) {
 }
 
 instruct *ParseTest::parse(const std::string &line) {
-  if (ir_) IR_free(ir_);
-  ir_ = nullptr;
+  release(ir_);
   drop_tokens();
   LST_clear();
   if (ASSY_SRC) fhm_close(ASSY_SRC);
@@ -85,24 +80,22 @@ instruct *ParseTest::parse(const std::string &line) {
     close(mkstemp(tmpl));
     path_ = tmpl;
   }
-  FILE *f = fopen(path_.c_str(), "wb");
   const std::string text = "        " + line + "\n";
+  FILE *f = fopen(path_.c_str(), "wb");
   fwrite(text.data(), 1, text.size(), f);
   fclose(f);
   strcpy(assy_src_name, path_.c_str());
   ASSY_SRC = fhm_open(path_.c_str(), "rb");
   f_name = assy_src_name;
   f_lnum = 0;
-  f_lchar = ' ';
   copytop = -1;
   endfile = endcard = 0;
   pass1 = 0;
   pass2 = 1;
   LEX_reset();
-  if (!capturing_) {
-    ::testing::internal::CaptureStderr();
-    capturing_ = true;
-  }
+  screen();
+  ::testing::internal::CaptureStderr();
+  capturing_ = true;
   next_token();
   lookup_opcode();
   ir_ = TRG_parse();
@@ -111,31 +104,50 @@ instruct *ParseTest::parse(const std::string &line) {
 }
 
 std::string ParseTest::screen() {
-  if (capturing_) {
-    capturing_ = false;
-    const std::string raw = ::testing::internal::GetCapturedStderr();
-    std::string out;
-    for (char c : raw) {
-      const bool blank = std::isspace(static_cast<unsigned char>(c));
-      if (blank && (out.empty() || out.back() == ' ')) continue;
-      out += blank ? ' ' : c;
-    }
-    screen_ = out;
+  if (!capturing_) return screen_;
+  capturing_ = false;
+  screen_.clear();
+  for (char c : ::testing::internal::GetCapturedStderr()) {
+    const bool blank = std::isspace(static_cast<unsigned char>(c));
+    if (!blank || (!screen_.empty() && screen_.back() != ' ')) screen_ += blank ? ' ' : c;
   }
   return screen_;
 }
-
-bool ParseTest::shown(const char *id, const char *text) {
-  const std::string want = std::string("[") + id + "] " + text;
-  return screen().find(want) != std::string::npos;
-}
-
-std::string ParseTest::row() const { return ir_ ? ia_row(ir_)->name : ""; }
-
-const operand *ParseTest::op(int n) const { return ir_ ? ia_op(ir_, n) : nullptr; }
 
 int ParseTest::operands() const {
   int n = 0;
   while (ir_ && n < IR_MAX_SLOTS && ir_->oprnds[n]) ++n;
   return n;
+}
+
+std::string ParseTest::describe(int n) const {
+  const operand *op = ir_ ? ia_op(ir_, n) : nullptr;
+  if (!op) return "none";
+  static const std::pair<uint16_t, const char *> kinds[] = {
+      {OP_NONE, "NONE"},    {OP_CPREG, "CPREG"},    {OP_REGLIST, "LIST"},  {OP_SHIFTREGR, "SHR"},
+      {OP_SHIFTREGI, "SHI"}, {OP_PSR, "PSR"},       {OP_PSRF, "PSRF"},     {OP_CPID, "CPID"},
+      {OP_INDIRECT, "IND"}, {OP_INDPREE, "PREE"},   {OP_INDPRES, "PRES"},  {OP_INDPOSTE, "POSTE"},
+      {OP_INDPOSTS, "POSTS"}, {OP_INDOPT, "OPT"},   {OP_SREG, "SREG"},     {OP_VFPSYS, "VFPSYS"},
+      {OP_DREG, "DREG"},    {OP_QREG, "QREG"},      {OP_DLIST, "DLIST"},   {OP_QLIST, "QLIST"},
+      {OP_CPSFLAGS, "CPS"}, {OP_MSYSREG, "MSYS"},   {OP_APSRF, "APSRF"},   {OP_ICON, "ICON"},
+      {OP_FCON, "FCON"},    {OP_SYMBOL, "SYM"},     {OP_REGISTER, "REG"},
+  };
+  static const char *shifts[] = {"LSL", "LSR", "ASR", "ROR", "RRX"};
+  std::string s = "?";
+  for (const auto &k : kinds)
+    if (k.first == op->kind) s = k.second;
+  s += " r" + std::to_string(op->op_reg);
+  if (op->op_reg2 != op->op_reg) s += " r" + std::to_string(op->op_reg2);
+  if (op->op_shift < 5) s += std::string(" ") + shifts[op->op_shift];
+  if (op->kind == OP_CPSFLAGS) s += std::string(" ") + op->value.v_str;
+  else s += " =" + std::to_string(op->value.v_val.to_i32());
+  if (op->op_lane != -2) s += " [" + std::to_string(op->op_lane) + "]";
+  if (op->op_neg) s += " -";
+  if (op->kind == OP_PSRF || op->kind == OP_APSRF) {
+    s += " m" + std::to_string(op->op_mods);
+  } else {
+    if (op->op_mods & MOD_WRITEBACK) s += " !";
+    if (op->op_mods & MOD_CARET) s += " ^";
+  }
+  return s;
 }

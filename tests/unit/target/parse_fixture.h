@@ -1,11 +1,10 @@
 #pragma once
-// Instruction statements read from source text through the real lexer, the
+// Instruction statements read from a source line through the real lexer, the
 // opcode lookup and TRG_parse, with the messages that reach the screen.
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "driver/records.h"
 #include "target/arm/instr.h"
 
 class ParseTest : public ::testing::Test {
@@ -13,27 +12,20 @@ class ParseTest : public ::testing::Test {
   void SetUp() override;
   void TearDown() override;
 
-  // Selects the architecture and the code state (0 ARM, 1 Thumb, 2 Thumb-2)
-  // with unified syntax, or old syntax when `ual` is false.
-  void target(const char *arch, uint32_t state, bool ual = true);
-  // Parses the first statement of `line` (in pass 2); the statement stays
-  // until the next call. Null when the parser refused it.
+  // The architecture, the code state (0 ARM, 1 Thumb, 2 Thumb-2) and the
+  // syntax (unified or old); no open IT block.
+  static void target(const char *arch, uint32_t state, bool ual = true);
+  // Parses the statement of `line` in pass 2; it stays until the next call.
   instruct *parse(const std::string &line);
-  // What reached the screen since the last call, blanks squeezed.
+  // The messages since the last parse, blanks squeezed.
   std::string screen();
-  // The statement's messages: the screen holds the id with the text.
-  bool shown(const char *id, const char *text);
-  // The row name of the statement.
-  std::string row() const;
-  // Operand n.
-  const operand *op(int n) const;
+  std::string row() const { return ir_ ? ia_row(ir_)->name : ""; }
   int operands() const;
+  // Operand n in one line: kind, op_reg, op_reg2 (when it differs), shift,
+  // =value, [lane], '-' for op_neg, then '!' '^' or the field mask "m9".
+  std::string describe(int n) const;
 
   instruct *ir_ = nullptr;
-  std::string path_;
-  std::string screen_;
+  std::string path_, screen_;
   bool capturing_ = false;
 };
-
-// The low 32 bits of an operand's integer.
-int32_t value_of(const operand *op);

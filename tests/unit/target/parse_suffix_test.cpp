@@ -1,5 +1,5 @@
-// Mnemonic words split into row, condition, letters and addressing mode,
-// in both suffix orders.
+// Mnemonic words split into row, slot, condition, letters, addressing mode
+// and prefix, in both suffix orders and in every state.
 #include "parse_fixture.h"
 
 #include "target/arm/parse.h"
@@ -8,159 +8,143 @@ namespace {
 
 using Suffix = ParseTest;
 
-TEST_F(Suffix, ConditionBeforeOrAfterTheLetters) {
-  const struct {
-    const char *line;
-    const char *row;
-    uint8_t cond;
-    uint32_t flags;
-  } cases[] = {
-      {"addeqs r0, r1, #4", "ADD", COND_EQ, IF_S | IF_COND},
-      {"ADDSEQ r0, r1, #4", "ADD", COND_EQ, IF_S | IF_COND},
-      {"ldreqb r0, [r1]", "LDR", COND_EQ, IF_B | IF_COND},
-      {"ldrbeq r0, [r1]", "LDR", COND_EQ, IF_B | IF_COND},
-      {"ldreqsh r0, [r1]", "LDR", COND_EQ, IF_SX | IF_H | IF_COND},
-      {"ldrsheq r0, [r1]", "LDR", COND_EQ, IF_SX | IF_H | IF_COND},
-      {"ldrsb r0, [r1]", "LDR", COND_AL, IF_SX | IF_B},
-      {"ldrhi r0, [r1]", "LDR", COND_HI, IF_COND},   // not LDRH with a stray I
-      {"ldrh r0, [r1]", "LDR", COND_AL, IF_H},        // no LDRH row in ARM state
-      {"movshi r0, r1", "MOV", COND_HI, IF_S | IF_COND},
-      {"movhis r0, r1", "MOV", COND_HI, IF_S | IF_COND},
-      {"strd r0, r1, [r2]", "STR", COND_AL, IF_D},
-      {"strdeq r0, r1, [r2]", "STR", COND_EQ, IF_D | IF_COND},
-      {"ldrbt r0, [r1], #1", "LDR", COND_AL, IF_B | IF_T},
-      {"ldmdb r0, {r1}", "LDM", COND_AL, AM_DB << 4},     // D before B is no doubleword
-      {"ldmiaeq r0, {r1}", "LDM", COND_EQ, IF_COND | AM_IA << 4},
-      {"ldmeqia r0, {r1}", "LDM", COND_EQ, IF_COND | AM_IA << 4},
-      {"stmfd sp!, {r1}", "STM", COND_AL, AM_FD << 4},
-      {"ldceql p1, c2, [r0]", "LDC", COND_EQ, IF_COND | IF_L},
-      {"movslt r0, r1", "MOV", COND_LT, IF_S | IF_COND},  // L before T is a condition
-      {"smlalbb r0, r1, r2, r3", "SMLALBB", COND_AL, 0},
-      {"mulnv r0, r1, r2", "MUL", COND_NV, IF_COND},
-      {"addhs r0, r1, r2", "ADD", COND_CS, IF_COND},
-      {"addlo r0, r1, r2", "ADD", COND_CC, IF_COND},
-  };
-  for (const auto &c : cases) {
+constexpr uint32_t C = IF_COND;
+constexpr uint32_t am(uint32_t mode) { return mode << 4; }
+
+struct statement_case {
+  const char *arch;
+  uint32_t state;
+  bool ual;
+  const char *line;
+  const char *row;
+  uint32_t slot;
+  uint8_t cond;
+  uint32_t flags;
+  const char *message = nullptr;  // "[id] text" that the line must give; else none
+  const char *prefix = "";
+};
+
+const statement_case statements[] = {
+    // Condition before or after the letters; ARM rows without letters.
+    {"7A8", 0, true, "addeqs r0, r1, #4", "ADD", 0, COND_EQ, IF_S | C},
+    {"7A8", 0, true, "ADDSEQ r0, r1, #4", "ADD", 0, COND_EQ, IF_S | C},
+    {"7A8", 0, true, "ldreqb r0, [r1]", "LDR", 0, COND_EQ, IF_B | C},
+    {"7A8", 0, true, "ldrbeq r0, [r1]", "LDR", 0, COND_EQ, IF_B | C},
+    {"7A8", 0, true, "ldreqsh r0, [r1]", "LDR", 0, COND_EQ, IF_SX | IF_H | C},
+    {"7A8", 0, true, "ldrsheq r0, [r1]", "LDR", 0, COND_EQ, IF_SX | IF_H | C},
+    {"7A8", 0, true, "ldrsb r0, [r1]", "LDR", 0, COND_AL, IF_SX | IF_B},
+    {"7A8", 0, true, "ldrhi r0, [r1]", "LDR", 0, COND_HI, C},
+    {"7A8", 0, true, "ldrh r0, [r1]", "LDR", 0, COND_AL, IF_H},
+    {"7A8", 0, true, "movshi r0, r1", "MOV", 0, COND_HI, IF_S | C},
+    {"7A8", 0, true, "movhis r0, r1", "MOV", 0, COND_HI, IF_S | C},
+    {"7A8", 0, true, "movslt r0, r1", "MOV", 0, COND_LT, IF_S | C},
+    {"7A8", 0, true, "strd r0, r1, [r2]", "STR", 0, COND_AL, IF_D},
+    {"7A8", 0, true, "strdeq r0, r1, [r2]", "STR", 0, COND_EQ, IF_D | C},
+    {"7A8", 0, true, "ldrbt r0, [r1], #1", "LDR", 0, COND_AL, IF_B | IF_T},
+    {"7A8", 0, true, "ldmdb r0, {r1}", "LDM", 0, COND_AL, am(AM_DB)},
+    {"7A8", 0, true, "ldmiaeq r0, {r1}", "LDM", 0, COND_EQ, C | am(AM_IA)},
+    {"7A8", 0, true, "ldmeqia r0, {r1}", "LDM", 0, COND_EQ, C | am(AM_IA)},
+    {"7A8", 0, true, "ldceql p1, c2, [r0]", "LDC", 0, COND_EQ, C | IF_L},
+    {"7A8", 0, true, "smlalbb r0, r1, r2, r3", "SMLALBB", 0, COND_AL, 0},
+    {"7A8", 0, true, "mulnv r0, r1, r2", "MUL", 0, COND_NV, C},
+    {"7A8", 0, true, "addlo r0, r1, r2", "ADD", 0, COND_CC, C},
+    {"7A8", 0, true, "addqq r0, r1, r2", "ADD", 0, COND_AL, 0, "[W0004] Invalid instruction modifier(s) ignored"},
+    // Unified names in ARM state.
+    {"7A8", 0, true, "lsls r0, r1, #2", "MOV", 0, COND_AL, IF_S},
+    {"7A8", 0, true, "svceq 0", "SWI", 0, COND_EQ, C},
+    {"7A8", 0, true, "popne {r0}", "LDM", 0, COND_NE, C | am(AM_FD)},
+    // Old syntax: the condition comes first.
+    {"4", 1, false, "addeqs r0, r1", "ADD", 1, COND_EQ, IF_S | C},
+    {"4", 1, false, "movseq r0, #1", "MOV", 1, COND_AL, IF_S, "[W0004] Invalid instruction modifier(s) ignored"},
+    // Branches: link, exchange, and the conditions that begin with L.
+    {"5e", 0, true, "ble 0", "B", 0, COND_LE, C},
+    {"5e", 0, true, "bls 0", "B", 0, COND_LS, C},
+    {"5e", 0, true, "blo 0", "B", 0, COND_CC, C},
+    {"5e", 0, true, "bl 0", "B", 0, COND_AL, IF_LINK},
+    {"5e", 0, true, "blle 0", "B", 0, COND_LE, IF_LINK | C},
+    {"5e", 0, true, "bleq 0", "B", 0, COND_EQ, IF_LINK | C},
+    {"5e", 0, true, "blx r0", "B", 0, COND_AL, IF_LINK | IF_X},
+    {"5e", 0, true, "blxne r0", "B", 0, COND_NE, IF_LINK | IF_X | C},
+    {"5e", 0, true, "bxeq lr", "BX", 0, COND_EQ, C},
+    {"4", 0, true, "blx r0", "B", 0, COND_AL, IF_L, "[W0004] Invalid instruction modifier(s) ignored"},
+    {"8M33", 2, true, "bxns lr", "BX", 1, COND_AL, IF_NS},
+    {"8M33", 2, true, "blxns r0", "B", 2, COND_AL, IF_LINK | IF_X | IF_NS},
+    {"8M33", 2, true, "ttat r0, r1", "TT", 2, COND_AL, IF_TT_A | IF_TT_T},
+    {"8M33", 2, true, "ttt r0, r1", "TT", 2, COND_AL, IF_TT_T},
+    // Parallel add/subtract prefixes, the add-extend spellings of v6.
+    {"6", 0, true, "uqadd16ne r0, r1, r2", "ADD16", 0, COND_NE, C, nullptr, "UQ"},
+    {"6", 0, true, "sasx r0, r1, r2", "ADDSUBX", 0, COND_AL, 0, nullptr, "S"},
+    {"6", 0, true, "shsaxeq r0, r1, r2", "SUBADDX", 0, COND_EQ, C, nullptr, "SH"},
+    {"6", 0, true, "add16 r0, r1, r2", "ADD16", 0, COND_AL, 0},
+    {"6", 0, true, "sadd8to16 r0, r1, r2", "SADD8TO16", 0, COND_AL, IF_SZEA},
+    {"7A8", 0, true, "sxtab r0, r1, r2", "SXTAB", 0, COND_AL, 0},
+    // Slots in the Thumb states.
+    {"7A8", 2, true, "adds r0, r1, #1", "ADD", 2, COND_AL, IF_S},
+    {"7A8", 2, true, "negs r0, r1", "NEG", 1, COND_AL, 0},
+    {"7A8", 2, true, "ldrh r0, [r1]", "LDRH", 2, COND_AL, 0},
+    {"7A8", 2, true, "cbz r0, 0", "CZB", 2, COND_EQ, C},
+    {"7A8", 2, true, "cbnz r0, 0", "CZB", 2, COND_NE, C},
+    {"7A8", 2, true, "czbeq r0, 0", "CZB", 2, COND_EQ, C, "[W0005] Non-UAL opcode used in UAL mode"},
+    {"7A8", 2, true, "swi 1", "SWI", 1, COND_AL, 0, "[W0005] Non-UAL opcode used in UAL mode"},
+    {"7A8", 2, false, "add r0, r1, #1", "ADD", 1, COND_AL, 0},
+    {"6M0", 2, true, "adds r0, r1, #1", "ADD", 1, COND_AL, 0},
+    // Width qualifiers.
+    {"7A8", 2, true, "adds.w r0, r1, r2", "ADD", 3, COND_AL, IF_S | IF_WIDE},
+    {"7A8", 2, true, "add.N r0, r1", "ADD", 1, COND_AL, 0},
+    {"7A8", 2, true, "cbz.n r0, 0", "CZB", 2, COND_EQ, C},
+    {"7A8", 2, true, "blx.n r0", "B", 1, COND_AL, IF_LINK | IF_X},
+    {"7A8", 2, true, "bl.n 0", "B", 2, COND_AL, IF_LINK, "[E0800] Instruction does not have narrow encoding"},
+    {"7A8", 2, true, "orn.n r0, r1, r2", "ORN", 3, COND_AL, 0, "[E0800] Instruction does not have narrow encoding"},
+    {"7A8", 2, false, "add.w r0, r1, #1", "ADD", 2, COND_AL, IF_WIDE},
+    {"7A8", 2, false, "neg.w r0, r1", "NEG", 1, COND_AL, IF_WIDE, "[E0002] Instruction doesn't have thumb2 encoding."},
+    {"7A8", 2, false, "addeq.w r0, r1, #1", "ADD", 2, COND_EQ, IF_WIDE | C,
+     "[E0002] Condition codes not allowed in thumb2 state encoding."},
+    {"7A8", 0, true, "add.w r0, r1, r2", "ADD", 0, COND_AL, 0, "[E0003] Unexpected trailing operand(s)"},
+    // IT and SETEND.
+    {"7A8", 2, true, "itte ne", "IT", 2, COND_NE, 0x12},
+    {"7A8", 2, true, "itx Gt", "IT", 2, COND_GT, 0, "[E0003] Invalid modifier in If-Then (IT) instruction"},
+    {"7A8", 2, true, "it", "IT", 2, COND_NV, 0, "[E0003] Empty or Invalid condition code"},
+    {"6", 0, true, "setend be", "SETEND", 0, COND_AL, IF_BE},
+    {"6", 0, true, "SETEND LE", "SETEND", 0, COND_AL, IF_LE},
+    {"6", 0, true, "setend middle", "SETEND", 0, COND_AL, 0, "[E0003] Invalid operand. Must be BE or LE."},
+};
+
+TEST_F(Suffix, Statements) {
+  for (const statement_case &c : statements) {
+    target(c.arch, c.state, c.ual);
     ASSERT_NE(parse(c.line), nullptr) << c.line;
     EXPECT_EQ(row(), c.row) << c.line;
+    EXPECT_EQ(encode_state, c.slot) << c.line;
     EXPECT_EQ(ir_->ia_cond, c.cond) << c.line;
     EXPECT_EQ(ir_->ia_flags, c.flags) << c.line;
-    EXPECT_EQ(encode_state, 0u) << c.line;
+    EXPECT_STREQ(ir_->ia_prefix, c.prefix) << c.line;
+    if (c.message) EXPECT_NE(screen().find(c.message), std::string::npos) << c.line << ": " << screen();
+    else EXPECT_EQ(screen(), "") << c.line;
   }
-  EXPECT_EQ(screen().find("[W0004]"), std::string::npos) << screen();
 }
 
-TEST_F(Suffix, OldSyntaxWantsTheConditionFirst) {
-  target("4", 1, false);  // .state16
-  ASSERT_NE(parse("addeqs r0, r1"), nullptr);
-  EXPECT_EQ(ir_->ia_cond, COND_EQ);
-  EXPECT_FALSE(shown("W0004", "Invalid instruction modifier(s) ignored"));
-  ASSERT_NE(parse("movseq r0, #1"), nullptr);
-  EXPECT_EQ(ir_->ia_cond, COND_AL);  // dropped
-  EXPECT_EQ(ir_->ia_flags, IF_S);
-  EXPECT_TRUE(shown("W0004", "Invalid instruction modifier(s) ignored"));
-  ASSERT_NE(parse("addqq r0, r1"), nullptr);
-  EXPECT_TRUE(shown("W0004", "Invalid instruction modifier(s) ignored"));
-}
-
-TEST_F(Suffix, BranchLinkAndExchange) {
-  target("5e", 0);
-  const struct {
-    const char *line;
-    uint8_t cond;
-    uint32_t flags;
-  } cases[] = {
-      {"ble 0", COND_LE, IF_COND},  {"bls 0", COND_LS, IF_COND}, {"blo 0", COND_CC, IF_COND},
-      {"blt 0", COND_LT, IF_COND},  {"bl 0", COND_AL, IF_LINK},  {"blle 0", COND_LE, IF_LINK | IF_COND},
-      {"bleq 0", COND_EQ, IF_LINK | IF_COND}, {"blx r0", COND_AL, IF_LINK | IF_X},
-      {"blxne r0", COND_NE, IF_LINK | IF_X | IF_COND}, {"bxeq lr", COND_EQ, IF_COND},
-  };
-  for (const auto &c : cases) {
-    ASSERT_NE(parse(c.line), nullptr) << c.line;
-    EXPECT_EQ(ir_->ia_cond, c.cond) << c.line;
-    EXPECT_EQ(ir_->ia_flags, c.flags) << c.line;
+TEST_F(Suffix, WordsThatAreNoStatementOfTheState) {
+  for (const char *line : {"frobnicate r0", "it eq", "cbz r0, 0"}) {
+    EXPECT_EQ(parse(line), nullptr) << line;
+    EXPECT_NE(screen().find("[E0002] Illegal mnemonic specified"), std::string::npos) << line;
   }
-  EXPECT_EQ(screen().find("[W0004]"), std::string::npos) << screen();
-
-  target("4", 0);  // no BLX below v5E: the X is left over
-  ASSERT_NE(parse("blx r0"), nullptr);
-  EXPECT_EQ(ir_->ia_flags & (IF_LINK | IF_X), 0u);
-  EXPECT_TRUE(shown("W0004", "Invalid instruction modifier(s) ignored"));
 }
 
-TEST_F(Suffix, SecureAndTestTargetLetters) {
-  target("8M33", 2);
-  ASSERT_NE(parse("bxns lr"), nullptr);
-  EXPECT_EQ(row(), "BX");
-  EXPECT_EQ(ir_->ia_flags, IF_NS);
-  ASSERT_NE(parse("blxns r0"), nullptr);
-  EXPECT_EQ(ir_->ia_flags, IF_LINK | IF_X | IF_NS);
-  ASSERT_NE(parse("ttat r0, r1"), nullptr);
-  EXPECT_EQ(row(), "TT");
-  EXPECT_EQ(ir_->ia_flags, IF_TT_A | IF_TT_T);
-  ASSERT_NE(parse("ttt r0, r1"), nullptr);
-  EXPECT_EQ(ir_->ia_flags, IF_TT_T);
-  EXPECT_EQ(screen().find("[W0004]"), std::string::npos) << screen();
-}
-
-TEST_F(Suffix, ParallelPrefixesAndAddExtendSpellings) {
+TEST_F(Suffix, ParallelAndAddExtendNames) {
   target("6", 0);
-  ASSERT_NE(parse("uqadd16ne r0, r1, r2"), nullptr);
-  EXPECT_EQ(row(), "ADD16");
-  EXPECT_STREQ(ir_->ia_prefix, "UQ");
-  EXPECT_EQ(ir_->ia_cond, COND_NE);
-  ASSERT_NE(parse("sasx r0, r1, r2"), nullptr);
-  EXPECT_EQ(row(), "ADDSUBX");
-  EXPECT_STREQ(ir_->ia_prefix, "S");
-  ASSERT_NE(parse("shsaxeq r0, r1, r2"), nullptr);
-  EXPECT_EQ(row(), "SUBADDX");
-  EXPECT_STREQ(ir_->ia_prefix, "SH");
-  EXPECT_EQ(ir_->ia_cond, COND_EQ);
-  ASSERT_NE(parse("add16 r0, r1, r2"), nullptr);  // no prefix: the encoder's message
-  EXPECT_STREQ(ir_->ia_prefix, "");
-  ASSERT_NE(parse("sadd8to16 r0, r1, r2"), nullptr);
-  EXPECT_EQ(ir_->ia_flags, IF_SZEA);
-  EXPECT_STREQ(ir_->ia_prefix, "");
-  target("7A8", 0);  // only v6 knows the add-extend spellings
-  ASSERT_NE(parse("sxtab r0, r1, r2"), nullptr);
-  EXPECT_EQ(ir_->ia_flags, 0u);
-
-  EXPECT_TRUE(mext_paddsub_instruction("QSUB8"));
-  EXPECT_FALSE(mext_paddsub_instruction("UADD8TO32"));
   size_t at = 0;
   EXPECT_TRUE(mext_paddsub_instruction("uhsubaddx", &at));
   EXPECT_EQ(at, 2u);
+  EXPECT_FALSE(mext_paddsub_instruction("UADD8TO32"));
+  EXPECT_TRUE(mext_paddsub_instruction("QASX"));
   ual_mode = 0;
   EXPECT_FALSE(mext_paddsub_instruction("QASX"));
-  target("5e", 0);
-  EXPECT_FALSE(mext_paddsub_instruction("QADD16"));
-  target("6", 0);
   EXPECT_TRUE(mext_szea_add_instruction("uadd16to32"));
   EXPECT_FALSE(mext_szea_add_instruction("UADD16TO3"));
-}
-
-TEST_F(Suffix, UnknownWordsAndRowsOfOtherStates) {
-  EXPECT_EQ(parse("frobnicate r0"), nullptr);
-  EXPECT_TRUE(shown("E0002", "Illegal mnemonic specified"));
-  EXPECT_EQ(parse("it eq"), nullptr);  // IT exists in Thumb-2 only
-  EXPECT_EQ(parse("cbz r0, 0"), nullptr);
-}
-
-TEST_F(Suffix, UnifiedNamesInArmState) {
-  ASSERT_NE(parse("lsls r0, r1, #2"), nullptr);
-  EXPECT_EQ(row(), "MOV");
-  EXPECT_EQ(ir_->ia_flags, IF_S);
-  ASSERT_NE(parse("svceq 0"), nullptr);
-  EXPECT_EQ(row(), "SWI");
-  EXPECT_EQ(ir_->ia_cond, COND_EQ);
-  ASSERT_NE(parse("popne {r0}"), nullptr);
-  EXPECT_EQ(row(), "LDM");
-  EXPECT_EQ(ir_->ia_cond, COND_NE);
-  EXPECT_EQ(ir_->ia_flags, IF_COND | AM_FD << 4);
-  EXPECT_EQ(screen().find("W0005"), std::string::npos);
-  target("7A8", 2);
-  ASSERT_NE(parse("swi 1"), nullptr);
-  EXPECT_TRUE(shown("W0005", "Non-UAL opcode used in UAL mode"));
+  target("5e", 0);
+  EXPECT_FALSE(mext_paddsub_instruction("QADD16"));
+  target("7A8", 0);
+  EXPECT_FALSE(mext_szea_add_instruction("SADD8TO16"));
 }
 
 }  // namespace
