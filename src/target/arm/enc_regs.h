@@ -62,3 +62,4 @@ void OPR_shape_fault();
 
 // The mnemonic row of the name (upper case), found once per name by the caller.
 const mnemonic_row *OPR_find_row(const char *name);
+
