@@ -54,8 +54,8 @@ class EncDpFields : public ::testing::Test {
     arm_arch_types.set(nullptr);
   }
 
-  // Builds the statement, writes its base word and runs its class encoder
-  // (MOVW and MOVT through their own); the messages are returned.
+  // Builds the statement, writes its base word and runs its class encoder;
+  // the messages are returned.
   std::string encode(const char *row, uint32_t state, const std::vector<op_spec> &ops, const char *prefix = "") {
     if (ir) IR_free(ir);
     encode_state = state;
@@ -72,12 +72,17 @@ class EncDpFields : public ::testing::Test {
     const uint32_t errors = num_errors + num_warnings;
     ::testing::internal::CaptureStderr();
     ENC_set(ir, ia_opcode(ir));
-    if (ia_class(ir)->ic_id == 125)
-      encode_movw_movt(ir);
-    else
-      class_encoder_for(ia_class(ir)->ic_id)(ir);
-    std::string messages = ::testing::internal::GetCapturedStderr();
-    if (num_errors + num_warnings == errors) messages.clear();
+    class_encoder_for(ia_class(ir)->ic_id)(ir);
+    const std::string printed = ::testing::internal::GetCapturedStderr();
+    if (num_errors + num_warnings == errors) return "";
+    // Long messages wrap at a width that depends on the file name: compare
+    // them with every run of blanks as one.
+    std::string messages;
+    for (char c : printed) {
+      const bool blank = c == ' ' || c == '\n' || c == '\t';
+      if (blank && !messages.empty() && messages.back() == ' ') continue;
+      messages += blank ? ' ' : c;
+    }
     return messages;
   }
 
@@ -189,7 +194,7 @@ TEST_F(EncDpFields, Thumb2SlotMessages) {
       {{"MOVW", T2, {R(0), I(0x10000)}, 0}, "Immediate cannot be greater than 16-bits"},
       {{"MOVT", T2, {R(15), I(1)}, 0}, "Specifying R15 as an operand is illegal"},
       {{"PKHTB", T2, {R(0), R(1), SH(2, SHIFT_LSL, 3)}, 0}, "Illegal shift type. Must be ASR"},
-      {{"USAT", T2, {R(0), I(32), R(1)}, 0}, "Illegal operand for immediate"},
+      {{"USAT", T2, {R(0), I(32), R(1)}, 0}, "Should lie between 0 and 31"},
       {{"SXTAB", ARM, {R(0), R(15), R(1)}, 0}, "Operand Rn cannot be R15"},
   };
   for (const message_case &m : cases) {
