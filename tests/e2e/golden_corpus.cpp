@@ -289,8 +289,10 @@ GoldenOutcome GOLD_check(const GoldenFile &f, const fs::path &dir, const GoldenA
   std::map<int, const GoldenLine *> expected;
   for (const GoldenLine &g : f.lines) expected[g.line] = &g;
   auto where = [&](int line) { return shown + (line > 0 ? ":" + std::to_string(line) : std::string()) + ": "; };
-  auto source = [&](int line) {
-    return line > 0 && size_t(line) <= f.text.size() ? " (" + trim(f.text[line - 1]) + ")" : std::string();
+  auto source = [&](int line) {  // the statement, without its expectation
+    if (line <= 0 || size_t(line) > f.text.size()) return std::string();
+    const std::string &text = f.text[line - 1];
+    return " (" + trim(std::string_view(text).substr(0, text.find(";="))) + ")";
   };
   for (const std::string &e : f.format_errors) out.findings.push_back(shown + ":" + e);
 
