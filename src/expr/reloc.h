@@ -22,3 +22,9 @@ bool RELOC_const_scnrel_offset(const value_record *value);
 
 // A tree that folding could not reduce, made a relocation expression in value.
 void E_reloc(value_record *value, node *n);
+
+struct operand;
+// Whether a pc-relative use of the operand must be left to the linker even
+// though the assembler could resolve it: another section, or a global symbol
+// that may be preempted, is weak, or lives in a COMDAT section.
+bool OPND_requires_reloc(const operand *op);

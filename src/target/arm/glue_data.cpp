@@ -12,6 +12,7 @@
 #include "listing/listing.h"
 #include "source/lexer.h"
 #include "target/arm/glue_pending.h"
+#include "target/arm/state.h"
 #include "target/arm/trg.h"
 
 namespace {
@@ -21,14 +22,9 @@ constexpr int MAX_ALIGN_EXPONENT = 15;
 // Exponents beyond this do not fit a 32-bit address.
 constexpr int MAX_ADDRESS_EXPONENT = 31;
 
-// The float unit as --float_support gives it; an unset option is the default, FLOAT_NONE.
-long float_support() {
-  return opt_on(OPT_FLOAT_SUPPORT) ? global_opts->getnumarg(OPT_FLOAT_SUPPORT, 0) : FLOAT_NONE;
-}
-
 // VFP units keep doubles in memory as two little-endian words, low word first.
 bool low_word_first() {
-  switch (float_support()) {
+  switch (arm_float_support()) {
     case FLOAT_NONE:
     case FLOAT_VFPV2:
     case FLOAT_VFPV3:

@@ -46,3 +46,9 @@ void set_zqcoff_fh_isa(unsigned isa);
 void set_zqcoff_fh_arm9abi();
 void set_zqcoff_fh_zqabi();
 void set_zqcoff_fh_dmode(bool dual_mode);
+
+// ---- Relocation types ---------------------------------------------------------------------
+
+// The object format's relocation type for a generic type number (0x300 and
+// up: R_ARM_PC24 is 0x300), or null when the format has none.
+const OFE::OF_RELOC_TYPE *ARM_reloc_type(uint32_t generic);

@@ -47,6 +47,16 @@ constexpr uint8_t cond_reverse(uint8_t cond) { return static_cast<uint8_t>(cond 
 // Shift types of operand::op_shift.
 enum : uint8_t { SHIFT_LSL = 0, SHIFT_LSR, SHIFT_ASR, SHIFT_ROR, SHIFT_RRX, SHIFT_NONE };
 
+// Operand fields by kind, as the parser fills them and the encoders read them:
+// - OP_REGISTER: op_reg. OP_SHIFTREGI: op_reg = op_reg2 = Rm, op_shift, the
+//   amount in the value. OP_SHIFTREGR: op_reg = op_reg2 = Rm, op_shift, the
+//   shift register's number in the value.
+// - Addresses: op_reg the base. OP_INDPREE/OP_INDPOSTE: the offset in the
+//   value. OP_INDPRES/OP_INDPOSTS: op_reg2 the offset register, op_shift (5 for
+//   none) and the amount in the value; op_neg for "-Rm". OP_INDOPT: the option.
+// - Lists: op_reg first, op_reg2 last, the mask of all in the value.
+// - OP_PSRF/OP_APSRF: op_reg the register's number, op_mods the field mask.
+
 // Bits of operand::op_mods.
 enum : uint16_t { MOD_CARET = 0x1, MOD_WRITEBACK = 0x2 };
 

@@ -38,6 +38,12 @@ void ARM_ARCH_TYPES::set(const char *text) {
     if (strcasecmp(text, version_texts[i]) == 0) value = i + 1;
 }
 
+long arm_float_support() {
+  return opt_on(OPT_FLOAT_SUPPORT) ? global_opts->getnumarg(OPT_FLOAT_SUPPORT, 0) : FLOAT_NONE;
+}
+
+bool arm_neon() { return opt_on(OPT_NEON); }
+
 bool arch_is_v6_or_higher() { return arm_arch_types.is_v6_or_higher(); }
 bool arch_is_v6m0() { return arm_arch() == ARCH_V6M0; }
 

@@ -15,3 +15,9 @@ constexpr uint32_t THUMB_FILL = 0x46C046C0u;
 
 // Reports "Illegal Cortex-M instruction/directive" on a Cortex-M architecture.
 void error_if_cortex_m(struct linebuf *line);
+
+// The float unit as --float_support gives it (FLOAT_* of glue_pending.h); an
+// unset option is the default, FLOAT_NONE.
+long arm_float_support();
+// --neon was given.
+bool arm_neon();
