@@ -10,6 +10,7 @@ differences, where no reference can say the value) skip the references.
     scripts/golden/gen.py [--out DIR] [--arch v7a ...]
 """
 import argparse
+import concurrent.futures
 import os
 import re
 import sys
@@ -110,7 +111,7 @@ def encode_file(arch, entries, review, where):
 
 
 def render(arch, name, what, entries, big):
-    head = ['; %s.' % what[0].upper() + what[1:],
+    head = ['; %s%s.' % (what[0].upper(), what[1:]),
             '; Written by scripts/golden/gen.py: change the generator, not this file.',
             '; RUN: %%s %%o %s%s' % (ARCH_OPTION[arch], ' --endian=big' if big else '')]
     body = []
@@ -127,31 +128,41 @@ def render(arch, name, what, entries, big):
     return '\n'.join(head + body) + '\n'
 
 
+def build_file(arch, name, what, build):
+    """The texts of one family's file (and its big-endian twin), and the
+    lines left for review."""
+    entries, review = build(Arch(arch, name)), []
+    encode_file(arch, entries, review, '%s/%s' % (arch, name))
+    texts = {name: render(arch, name, what, entries, False)}
+    if (arch, name) in BIG:
+        texts[name + '_big'] = render(arch, name, what, entries, True)
+    return texts, review
+
+
 def main():
     ap = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     here = os.path.dirname(os.path.abspath(__file__))
     ap.add_argument('--out', default=os.path.join(here, '..', '..', 'tests', 'golden'))
+    ap.add_argument('--review', default=os.path.join(here, 'review.txt'))
     ap.add_argument('--arch', nargs='*', default=list(ARCH_OPTION))
     args = ap.parse_args()
+    jobs = [(arch, name, what, build) for arch in args.arch for name, what, build, level in FAMILIES
+            if Arch(arch, name).level >= level]
+    # The reference tools do the work: one file per thread keeps every core busy.
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 2) as pool:
+        done = list(pool.map(lambda job: build_file(*job), jobs))
     review, total = [], 0
-    for arch in args.arch:
+    for (arch, *_), (texts, left) in zip(jobs, done):
         os.makedirs(os.path.join(args.out, arch), exist_ok=True)
-        for name, what, build, level in FAMILIES:
-            a = Arch(arch, name)
-            if a.level < level:
-                continue
-            entries = build(a)
-            encode_file(arch, entries, review, '%s/%s' % (arch, name))
-            for big in [False, True] if (arch, name) in BIG else [False]:
-                text = render(arch, name, what, entries, big)
-                path = os.path.join(args.out, arch, name + ('_big' if big else '') + '.asm')
-                with open(path, 'w') as f:
-                    f.write(text)
-                total += text.count(';= ')
-    with open(os.path.join(here, 'review.txt'), 'w') as f:
+        for name, text in texts.items():
+            with open(os.path.join(args.out, arch, name + '.asm'), 'w') as f:
+                f.write(text)
+            total += text.count(';= ')
+        review += left
+    with open(args.review, 'w') as f:
         f.write('# Lines left out of the corpus: the references disagree or both reject them.\n')
         f.write(''.join(r + '\n' for r in review))
-    print('%d lines written, %d left for review (scripts/golden/review.txt)' % (total, len(review)))
+    print('%d lines written, %d left for review (%s)' % (total, len(review), args.review))
 
 
 if __name__ == '__main__':

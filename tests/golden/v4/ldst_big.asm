@@ -1,4 +1,4 @@
-; W.ord and byte loads and stores: every addressing mode, T forms, suffix orders
+; Word and byte loads and stores: every addressing mode, T forms, suffix orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4 --endian=big
         LDR     R3, [R12]                       ;= e59c3000

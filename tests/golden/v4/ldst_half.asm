@@ -1,4 +1,4 @@
-; H.alfword and signed loads and stores: every addressing mode, suffix orders
+; Halfword and signed loads and stores: every addressing mode, suffix orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4
         LDRH    R9, [R11]                       ;= e1db90b0

@@ -1,4 +1,4 @@
-; M.ultiplies and long multiplies
+; Multiplies and long multiplies.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4
         MUL     R5, R6, R0                      ;= e0050096

@@ -1,4 +1,4 @@
-; M.RS and MSR with every field mask
+; MRS and MSR with every field mask.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4
         MRS     R13, CPSR                       ;= e10fd000

@@ -1,4 +1,4 @@
-; T.he shift mnemonics LSL LSR ASR ROR RRX, as MOV with a shifted register
+; The shift mnemonics LSL LSR ASR ROR RRX, as MOV with a shifted register.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4
         LSL     R0, R12, #1                     ;= e1a0008c

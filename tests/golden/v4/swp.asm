@@ -1,4 +1,4 @@
-; S.WP and SWPB
+; SWP and SWPB.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4
         SWP     R5, R4, [R6]                    ;= e1065094

@@ -1,4 +1,4 @@
-; A.DR with an offset and with labels of the section
+; ADR with an offset and with labels of the section.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         ADR     R9, #8                          ;= e28f9008

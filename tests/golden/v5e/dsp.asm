@@ -1,4 +1,4 @@
-; S.aturating arithmetic, halfword multiplies, CLZ
+; Saturating arithmetic, halfword multiplies, CLZ.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         QADD    R14, R6, R10                    ;= e10ae056

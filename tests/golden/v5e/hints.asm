@@ -1,4 +1,4 @@
-; N.OP, hints, barriers, BKPT, SVC, SMI, UDF, FMSTAT
+; NOP, hints, barriers, BKPT, SVC, SMI, UDF, FMSTAT.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         NOP                                     ;= e1a00000

@@ -1,4 +1,4 @@
-; W.ord and byte loads and stores: every addressing mode, T forms, suffix orders
+; Word and byte loads and stores: every addressing mode, T forms, suffix orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         LDR     R12, [R9]                       ;= e599c000

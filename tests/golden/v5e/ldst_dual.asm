@@ -1,4 +1,4 @@
-; D.oubleword loads and stores
+; Doubleword loads and stores.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         LDRD    R4, R5, [R14]                   ;= e1ce40d0

@@ -1,4 +1,4 @@
-; M.ultiplies and long multiplies
+; Multiplies and long multiplies.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         MUL     R10, R3, R5                     ;= e00a0593

@@ -1,4 +1,4 @@
-; L.oads, stores and preloads of labels in the same section: pc-relative, no relocation
+; Loads, stores and preloads of labels in the same section: pc-relative, no relocation.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
 back

@@ -1,4 +1,4 @@
-; P.LD and PLI
+; PLD and PLI.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         PLD     [R10]                           ;= f5daf000

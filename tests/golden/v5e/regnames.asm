@@ -1,4 +1,4 @@
-; R.egister names and lower case
+; Register names and lower case.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         ADD     A1, R1, A1                      ;= e0810000

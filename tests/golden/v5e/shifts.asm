@@ -1,4 +1,4 @@
-; T.he shift mnemonics LSL LSR ASR ROR RRX, as MOV with a shifted register
+; The shift mnemonics LSL LSR ASR ROR RRX, as MOV with a shifted register.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         LSL     R5, R13, #1                     ;= e1a0508d

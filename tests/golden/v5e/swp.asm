@@ -1,4 +1,4 @@
-; S.WP and SWPB
+; SWP and SWPB.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
         SWP     R10, R2, [R6]                   ;= e106a092

@@ -1,4 +1,4 @@
-; D.ata processing: every second-operand shape, conditions, flag letters in both orders
+; Data processing: every second-operand shape, conditions, flag letters in both orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         AND     R11, R3, #255                   ;= e203b0ff

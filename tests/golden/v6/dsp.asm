@@ -1,4 +1,4 @@
-; S.aturating arithmetic, halfword multiplies, CLZ
+; Saturating arithmetic, halfword multiplies, CLZ.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         QADD    R8, R9, R1                      ;= e1018059

@@ -1,4 +1,4 @@
-; D.ual and most-significant-word multiplies, long accumulates
+; Dual and most-significant-word multiplies, long accumulates.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         SMLAD   R10, R4, R3, R11                ;= e70ab314

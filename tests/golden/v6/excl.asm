@@ -1,4 +1,4 @@
-; E.xclusive loads and stores, CLREX
+; Exclusive loads and stores, CLREX.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         LDREX   R7, [R2]                        ;= e1927f9f

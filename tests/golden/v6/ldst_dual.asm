@@ -1,4 +1,4 @@
-; D.oubleword loads and stores
+; Doubleword loads and stores.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         LDRD    R8, R9, [R11]                   ;= e1cb80d0

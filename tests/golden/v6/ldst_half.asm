@@ -1,4 +1,4 @@
-; H.alfword and signed loads and stores: every addressing mode, suffix orders
+; Halfword and signed loads and stores: every addressing mode, suffix orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         LDRH    R3, [R4]                        ;= e1d430b0

@@ -1,4 +1,4 @@
-; M.ultiplies and long multiplies
+; Multiplies and long multiplies.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         MUL     R1, R4, R9                      ;= e0010994

@@ -1,4 +1,4 @@
-; P.KHBT and PKHTB
+; PKHBT and PKHTB.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         PKHBT   R3, R12, R6, LSL #1             ;= e68c3096

@@ -1,4 +1,4 @@
-; P.arallel add and subtract, SEL, USAD8
+; Parallel add and subtract, SEL, USAD8.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6 --endian=big
         SADD16  R10, R2, R9                     ;= e612af19

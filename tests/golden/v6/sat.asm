@@ -1,4 +1,4 @@
-; S.SAT, USAT, SSAT16, USAT16
+; SSAT, USAT, SSAT16, USAT16.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         SSAT    R10, #1, R8                     ;= e6a0a018

@@ -1,4 +1,4 @@
-; T.he shift mnemonics LSL LSR ASR ROR RRX, as MOV with a shifted register
+; The shift mnemonics LSL LSR ASR ROR RRX, as MOV with a shifted register.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         LSL     R5, R12, #1                     ;= e1a0508c

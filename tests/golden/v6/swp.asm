@@ -1,4 +1,4 @@
-; S.WP and SWPB
+; SWP and SWPB.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
         SWP     R5, R9, [R3]                    ;= e1035099

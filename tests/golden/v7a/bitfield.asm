@@ -1,4 +1,4 @@
-; B.it-field clear, insert and extract
+; Bit-field clear, insert and extract.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         BFC     R4, #0, #1                      ;= e7c0401f

@@ -1,4 +1,4 @@
-; C.oprocessor instructions
+; Coprocessor instructions.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         CDP     p7, #0, c0, c1, c2, #0          ;= ee010702

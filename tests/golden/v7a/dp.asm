@@ -1,4 +1,4 @@
-; D.ata processing: every second-operand shape, conditions, flag letters in both orders
+; Data processing: every second-operand shape, conditions, flag letters in both orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         AND     R11, R6, #0                     ;= e206b000

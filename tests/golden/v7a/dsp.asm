@@ -1,4 +1,4 @@
-; S.aturating arithmetic, halfword multiplies, CLZ
+; Saturating arithmetic, halfword multiplies, CLZ.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         QADD    R5, R2, R13                     ;= e10d5052

@@ -1,4 +1,4 @@
-; D.ual and most-significant-word multiplies, long accumulates
+; Dual and most-significant-word multiplies, long accumulates.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         SMLAD   R7, R12, R2, R14                ;= e707e21c

@@ -1,4 +1,4 @@
-; E.xclusive loads and stores, CLREX
+; Exclusive loads and stores, CLREX.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         LDREX   R8, [R1]                        ;= e1918f9f

@@ -1,4 +1,4 @@
-; S.ign and zero extension with rotation
+; Sign and zero extension with rotation.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         SXTB    R12, R1                         ;= e6afc071

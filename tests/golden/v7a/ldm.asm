@@ -1,4 +1,4 @@
-; L.DM and STM in every addressing mode, write-back, ^, PUSH and POP
+; LDM and STM in every addressing mode, write-back, ^, PUSH and POP.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         LDM     R13, {R0, R2, R4-R6, LR}        ;= e89d4075

@@ -1,4 +1,4 @@
-; W.ord and byte loads and stores: every addressing mode, T forms, suffix orders
+; Word and byte loads and stores: every addressing mode, T forms, suffix orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         LDR     R7, [R13]                       ;= e59d7000

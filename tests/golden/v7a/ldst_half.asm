@@ -1,4 +1,4 @@
-; H.alfword and signed loads and stores: every addressing mode, suffix orders
+; Halfword and signed loads and stores: every addressing mode, suffix orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         LDRH    R5, [R8]                        ;= e1d850b0

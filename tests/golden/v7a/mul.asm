@@ -1,4 +1,4 @@
-; M.ultiplies and long multiplies
+; Multiplies and long multiplies.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         MUL     R11, R5, R10                    ;= e00b0a95

@@ -1,4 +1,4 @@
-; P.KHBT and PKHTB
+; PKHBT and PKHTB.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         PKHBT   R1, R0, R3, LSL #1              ;= e6801093

@@ -1,4 +1,4 @@
-; P.arallel add and subtract, SEL, USAD8
+; Parallel add and subtract, SEL, USAD8.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         SADD16  R4, R10, R12                    ;= e61a4f1c

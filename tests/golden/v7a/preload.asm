@@ -1,4 +1,4 @@
-; P.LD and PLI
+; PLD and PLI.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         PLD     [R7]                            ;= f5d7f000

@@ -1,4 +1,4 @@
-; M.RS and MSR with every field mask
+; MRS and MSR with every field mask.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         MRS     R14, CPSR                       ;= e10fe000

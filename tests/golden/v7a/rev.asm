@@ -1,4 +1,4 @@
-; B.yte and bit reversal
+; Byte and bit reversal.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         REV     R3, R13                         ;= e6bf3f3d

@@ -1,4 +1,4 @@
-; S.SAT, USAT, SSAT16, USAT16
+; SSAT, USAT, SSAT16, USAT16.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         SSAT    R9, #1, R2                      ;= e6a09012

@@ -1,4 +1,4 @@
-; S.WP and SWPB
+; SWP and SWPB.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
         SWP     R1, R5, [R0]                    ;= e1001095

@@ -1,4 +1,4 @@
-; B.it-field clear, insert and extract
+; Bit-field clear, insert and extract.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         BFC     R5, #0, #1                      ;= e7c0501f

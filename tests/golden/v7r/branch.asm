@@ -1,4 +1,4 @@
-; B.ranches with plain-number offsets (the offset itself), BX, BLX, BXJ, CRET
+; Branches with plain-number offsets (the offset itself), BX, BLX, BXJ, CRET.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         B       0                               ;= ea000000

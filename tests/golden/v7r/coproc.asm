@@ -1,4 +1,4 @@
-; C.oprocessor instructions
+; Coprocessor instructions.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         CDP     P15, #0, c0, c1, c2, #0         ;= ee010f02

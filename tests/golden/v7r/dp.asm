@@ -1,4 +1,4 @@
-; D.ata processing: every second-operand shape, conditions, flag letters in both orders
+; Data processing: every second-operand shape, conditions, flag letters in both orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         AND     R3, R11, #255                   ;= e20b30ff

@@ -1,4 +1,4 @@
-; S.aturating arithmetic, halfword multiplies, CLZ
+; Saturating arithmetic, halfword multiplies, CLZ.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         QADD    R11, R6, R3                     ;= e103b056

@@ -1,4 +1,4 @@
-; D.ual and most-significant-word multiplies, long accumulates
+; Dual and most-significant-word multiplies, long accumulates.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         SMLAD   R13, R7, R10, R12               ;= e70dca17

@@ -1,4 +1,4 @@
-; E.xclusive loads and stores, CLREX
+; Exclusive loads and stores, CLREX.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         LDREX   R5, [R2]                        ;= e1925f9f

@@ -1,4 +1,4 @@
-; S.ign and zero extension with rotation
+; Sign and zero extension with rotation.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         SXTB    R1, R10                         ;= e6af107a

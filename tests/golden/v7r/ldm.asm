@@ -1,4 +1,4 @@
-; L.DM and STM in every addressing mode, write-back, ^, PUSH and POP
+; LDM and STM in every addressing mode, write-back, ^, PUSH and POP.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         LDM     R7, {R0-R3}                     ;= e897000f

@@ -1,4 +1,4 @@
-; D.oubleword loads and stores
+; Doubleword loads and stores.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         LDRD    R2, R3, [R4]                    ;= e1c420d0

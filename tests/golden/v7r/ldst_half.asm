@@ -1,4 +1,4 @@
-; H.alfword and signed loads and stores: every addressing mode, suffix orders
+; Halfword and signed loads and stores: every addressing mode, suffix orders.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         LDRH    R7, [R13]                       ;= e1dd70b0

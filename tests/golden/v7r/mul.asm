@@ -1,4 +1,4 @@
-; M.ultiplies and long multiplies
+; Multiplies and long multiplies.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         MUL     R13, R12, R4                    ;= e00d049c

@@ -1,4 +1,4 @@
-; P.KHBT and PKHTB
+; PKHBT and PKHTB.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         PKHBT   R1, R6, R12, LSL #1             ;= e686109c

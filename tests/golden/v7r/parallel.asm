@@ -1,4 +1,4 @@
-; P.arallel add and subtract, SEL, USAD8
+; Parallel add and subtract, SEL, USAD8.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         SADD16  R0, R7, R5                      ;= e6170f15

@@ -1,4 +1,4 @@
-; B.yte and bit reversal
+; Byte and bit reversal.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         REV     R9, R1                          ;= e6bf9f31

@@ -1,4 +1,4 @@
-; T.he shift mnemonics LSL LSR ASR ROR RRX, as MOV with a shifted register
+; The shift mnemonics LSL LSR ASR ROR RRX, as MOV with a shifted register.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         LSL     R3, R14, #1                     ;= e1a0308e

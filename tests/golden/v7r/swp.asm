@@ -1,4 +1,4 @@
-; S.WP and SWPB
+; SWP and SWPB.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         SWP     R12, R9, [R11]                  ;= e10bc099

@@ -1,4 +1,4 @@
-; C.PS, SRS, RFE, SETEND
+; CPS, SRS, RFE, SETEND.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
         CPS     #16                             ;= f1020010
