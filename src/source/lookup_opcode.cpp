@@ -3,27 +3,33 @@
 #include <algorithm>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 
 #include "driver/diag.h"
 #include "source/lexer.h"
 #include "source/lexer_internal.h"
 #include "source/ophash.h"
 #include "target/arm/opcodes.h"
+#include "target/arm/parse.h"
 #include "target/arm/trg.h"
 
 namespace {
 
 bool is_mnemonic(const ophashtbl *e) { return e && e->kind == OPTYPE_MNEMONIC; }
 
-// Classes whose mnemonics carry data-type suffixes in the source.
+// Mnemonics whose data-type suffixes (.F32, .I16 ...) stand behind the word.
 bool has_type_suffixes(const ophashtbl *e) {
-  const inst_class *cls = e->mnemonic()->slot[encode_state].cls;
-  if (!cls) return false;
-  const unsigned id = cls->ic_id;
-  return (id >= 201 && id <= 216) || (id >= 218 && id <= 222) || id == 49 || id == 50;
+  return is_mnemonic(e) && PRS_has_type_suffixes(e->mnemonic()->slot[encode_state].cls);
 }
 
-ophashtbl *direct_search(const std::string &name) {
+// The name in unified mode goes through the translation table; buf holds it.
+std::string_view translated(std::string_view name, std::string *buf) {
+  if (!ual_mode) return name;
+  UAL_translate(name, buf);
+  return *buf;
+}
+
+ophashtbl *direct_search(std::string_view name) {
   if (cur_state != STATE_THUMB2) {
     encode_state = cur_state;
     return findop(name);
@@ -39,12 +45,14 @@ ophashtbl *direct_search(const std::string &name) {
 }
 
 // The longest prefix of base that is a mnemonic; *length gets its length.
-ophashtbl *prefix_search(const std::string &base, size_t *length) {
+// `name` is the whole (translated) word.
+ophashtbl *prefix_search(std::string_view base, std::string_view name, size_t *length) {
   if (base.size() < 2) return nullptr;
   const bool thumb2_ual = cur_state == STATE_THUMB2 && ual_mode;
+  const uint32_t slot = arch_is_v6m0() ? STATE_THUMB16 : encode_state;
   for (size_t n = std::min<size_t>(20, base.size() - 1); n >= 1; --n) {
-    const std::string cut = base.substr(0, n);
-    if (arch_is_v6m0()) encode_state = STATE_THUMB16;
+    encode_state = slot;
+    const std::string_view cut = base.substr(0, n);
     ophashtbl *e = findop(cut);
     if (!is_mnemonic(e) && thumb2_ual) {
       encode_state = STATE_THUMB16;
@@ -53,8 +61,7 @@ ophashtbl *prefix_search(const std::string &base, size_t *length) {
     }
     if (!is_mnemonic(e)) continue;
     // LDRHI and STRHI are LDR and STR with the condition HI.
-    if ((e->name == "LDRH" || e->name == "STRH") && base.size() > 4 && (base[4] == 'I' || base[4] == 'i'))
-      continue;
+    if ((e->name == "LDRH" || e->name == "STRH") && name.size() > 4 && LEX_upper(name[4]) == 'I') continue;
     *length = n;
     return e;
   }
@@ -65,35 +72,42 @@ ophashtbl *prefix_search(const std::string &base, size_t *length) {
 
 void lookup_opcode() {
   if (!curtk || curtk->kind != TK_IDENT || !curtk->value.sval) return;
-  const std::string name = ual_mode ? ual_translate_name(curtk->value.sval) : std::string(curtk->value.sval);
+  cur_ual_translation = nullptr;
+  cur_mext_prefix[0] = '\0';
+  // Reused for every statement: no allocation on the way.
+  static std::string name_buf;
+  static std::string rest_buf;
+  const std::string_view given(curtk->value.sval);
+  const std::string_view name = translated(given, &name_buf);
 
   ophashtbl *entry = direct_search(name);
-  if (is_mnemonic(entry) && has_type_suffixes(entry)) parse_simd_suffix(entry->mnemonic());
-
-  size_t offset = 0;
+  std::string_view base = name;
   if (!entry && arch_is_v6_or_higher()) {
     int prefix = 0;
-    if (has_mext_prefix(name.c_str(), &prefix) && prefix > 0) {
-      offset = static_cast<size_t>(prefix);
-      std::string rest = name.substr(offset);
-      if (ual_mode) rest = ual_translate_name(rest);
-      ophashtbl *e = findop(rest);
+    // name is zero-terminated: the token's text or name_buf.
+    if (has_mext_prefix(name.data(), &prefix) && prefix > 0) {
+      base = translated(name.substr(static_cast<size_t>(prefix)), &rest_buf);
+      ophashtbl *e = direct_search(base);
       if (is_mnemonic(e)) entry = e;
     }
   }
 
   if (!entry) {
-    const std::string base = name.substr(offset);
     size_t n = 0;
-    entry = prefix_search(base, &n);
+    entry = prefix_search(base, name, &n);
     if (!entry) return;  // a label or an unknown word stays an identifier
-    token *rest = LEX_newtkn(TK_OPCODE_REST, curtk->column + static_cast<int32_t>(offset + n));
-    rest->line = curtk->line;
-    LEX_set_text(rest, std::string_view(base).substr(n));
-    rest->length = static_cast<uint32_t>(base.size() - n);
-    curtk->length = static_cast<uint32_t>(offset + n);
-    unget_token(&rest);
+    const std::string_view rest = base.substr(n);
+    const size_t head = given.size() > rest.size() ? given.size() - rest.size() : given.size();
+    token *tk = LEX_newtkn(TK_OPCODE_REST, curtk->column + static_cast<int32_t>(head));
+    tk->line = curtk->line;
+    LEX_set_text(tk, rest);
+    tk->length = static_cast<uint32_t>(rest.size());
+    curtk->length = static_cast<uint32_t>(head);
+    unget_token(&tk);
   }
+  // The data-type suffixes stand behind the whole word, also behind letters
+  // (VMULL.S16).
+  if (has_type_suffixes(entry)) parse_simd_suffix(entry->mnemonic());
 
   uint16_t kind = 0;
   switch (entry->kind) {

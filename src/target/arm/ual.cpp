@@ -8,6 +8,7 @@
 #include "source/lexer.h"
 #include "target/arm/arch.h"
 #include "target/arm/opcodes.h"
+#include "target/arm/parse.h"
 #include "target/arm/tables.h"
 #include "target/arm/trg.h"
 
@@ -17,29 +18,35 @@ char cur_mext_prefix[3] = {};
 
 namespace {
 
-char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+constexpr uint32_t letter_bit(char c) { return c >= 'A' && c <= 'Z' ? 1u << (c - 'A') : 0; }
+
+// The first letters of the unified names: most words at the head of a
+// statement are no unified name at all and are passed over at once.
+uint32_t ual_first_letters() {
+  static const uint32_t mask = [] {
+    uint32_t m = 0;
+    for (const ual_name_translation *row = ual_to_old_mnemonics; row->ual_name; ++row)
+      m |= letter_bit(row->ual_name[0]);
+    return m;
+  }();
+  return mask;
+}
 
 // `text` begins with `prefix` (upper case), without regard to case.
 bool starts_with(std::string_view text, const char *prefix) {
   const size_t n = std::strlen(prefix);
   if (text.size() < n) return false;
   for (size_t i = 0; i < n; ++i)
-    if (upper(text[i]) != prefix[i]) return false;
+    if (LEX_upper(text[i]) != prefix[i]) return false;
   return true;
-}
-
-// Where `word` (upper case) first occurs in `text`, without regard to case.
-size_t find_word(std::string_view text, const char *word) {
-  const size_t n = std::strlen(word);
-  for (size_t i = 0; i + n <= text.size(); ++i)
-    if (starts_with(text.substr(i), word)) return i;
-  return std::string_view::npos;
 }
 
 }  // namespace
 
-std::string ual_translate_name(const std::string &name) {
+bool UAL_translate(std::string_view name, std::string *out) {
   cur_ual_translation = nullptr;
+  out->assign(name);
+  if (name.empty() || !(ual_first_letters() & letter_bit(LEX_upper(name[0])))) return false;
   const uint32_t state = arm_arch() == ARCH_V6M0 ? 1 : cur_state;
   // Longest unified prefix of at most 20 characters; the table is short, so a
   // scan costs less than building the prefixes.
@@ -51,31 +58,30 @@ std::string ual_translate_name(const std::string &name) {
     best = row;
     best_length = n;
   }
-  if (!best) return name;
+  if (!best) return false;
   cur_ual_translation = best;
   if (!best->old_name) {
     warn(curline, "W0005", "Non-UAL opcode used in UAL mode");
-    return name;
+    return false;
   }
-  return best->old_name + name.substr(best_length);
+  out->assign(best->old_name);
+  out->append(name.substr(best_length));
+  return true;
+}
+
+std::string ual_translate_name(const std::string &name) {
+  std::string out;
+  UAL_translate(name, &out);
+  return out;
 }
 
 bool has_mext_prefix(const char *name, int *length_out) {
   if (length_out) *length_out = 0;
   cur_mext_prefix[0] = '\0';
-  if (!name || !arm_arch_types.is_v6_or_higher()) return false;
-  const std::string_view text(name);
-  for (const char *excluded : {"ADD16TO32", "ADD8TO16", "ADD8TO32"})
-    if (find_word(text, excluded) != std::string_view::npos) return false;
-  size_t at = std::string_view::npos;
-  for (const char *word : {"ADD16", "ADDSUBX", "SUBADDX", "SUB16", "ADD8", "SUB8", "ASX", "SAX"}) {
-    if (!ual_mode && (std::strcmp(word, "ASX") == 0 || std::strcmp(word, "SAX") == 0)) continue;
-    const size_t found = find_word(text, word);
-    if (found < at) at = found;
-  }
-  if (at == std::string_view::npos || at == 0 || at > 2) return false;
-  const char first = upper(text[0]);
-  const char second = at == 2 ? upper(text[1]) : '\0';
+  size_t at = 0;
+  if (!name || !mext_paddsub_instruction(name, &at) || at == 0 || at > 2) return false;
+  const char first = LEX_upper(name[0]);
+  const char second = at == 2 ? LEX_upper(name[1]) : '\0';
   const bool known = at == 1 ? (first == 'S' || first == 'Q' || first == 'U')
                              : ((first == 'S' && second == 'H') || (first == 'U' && (second == 'Q' || second == 'H')));
   if (!known) return false;

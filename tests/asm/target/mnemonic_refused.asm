@@ -1,4 +1,4 @@
-; A mnemonic that the tables know reaches the instruction parser, which
+; A mnemonic that the tables know is parsed and reaches the encoder, which
 ; refuses it at its line for now; an unknown word stays no mnemonic.
 ; RUN: %s %o -v7A8
         .text
@@ -6,7 +6,7 @@
         .thumb
         it      eq              ;! E0002 Instruction parsing is not supported yet
         addsne  r0, r0, #1      ;! E0002 Instruction parsing is not supported yet
-        vadd.f32 s0, s1, s2     ;! E0002 Instruction parsing is not supported yet
+        vadd    s0, s1, s2      ;! E0002 Instruction parsing is not supported yet
         frobnicate r0           ;! E0002 Illegal mnemonic specified
         .state32
         it      eq              ;! E0002 Illegal mnemonic specified
