@@ -81,8 +81,6 @@ def dp(a):
         m = ['MOV', 'MVN'][i % 2]
         out.append(E('%s%sS %s, %s' % (m, c, r[0], r[1]), '%ss%s %s, %s' % (low(m), low(c), r[0], r[1])))
         out.append(E('%s%s %s, #%d' % (DP_CMP[i % 4], c, r[0], i * 3)))
-    if a.level >= 7:
-        out += movw_forms(a)
     return out
 
 

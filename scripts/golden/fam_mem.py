@@ -32,7 +32,7 @@ def ldst(a):
         out.append(E('STR%s %s, [%s], #-%d' % (c, t, n, i + 1)))
         out.append(E('LDR%sB %s, [%s]' % (c, t, n), 'ldrb%s %s, [%s]' % (low(c), t, n)))
         out.append(E('LDRB%s %s, [%s]' % (c, t, n)))
-        out.append(E('STR%sB %s, [%s, #-%d]' % (c, t, n, i), 'strb%s %s, [%s, #-%d]' % (low(c), t, n, i)))
+        out.append(E('STR%sB %s, [%s, #-%d]' % (c, t, n, i + 1), 'strb%s %s, [%s, #-%d]' % (low(c), t, n, i + 1)))
         out.append(E('STRB%s %s, [%s, #%d]!' % (c, t, n, i + 1)))
     for op in ['LDRT', 'STRT', 'LDRBT', 'STRBT']:
         for mode in ['[{n}], #4', '[{n}], #-4095', '[{n}], {m}', '[{n}], -{m}, LSL #4', '[{n}], {m}, ASR #32']:
@@ -43,6 +43,9 @@ def ldst(a):
         out.append(E('LDRT%s R2, [R3], #-8' % c, 'ldrt%s r2, [r3], #-8' % low(c)))
         out.append(E('STR%sBT R4, [R5], R6' % c, 'strbt%s r4, [r5], r6' % low(c)))
         out.append(E('STRBT%s R7, [R8], -R9' % c, 'strbt%s r7, [r8], -r9' % low(c)))
+    # An offset of -0 is a value like any other, not a subtraction.
+    out += [E('STR R0, [R1, #-0]', 'str r0, [r1, #0]', '#-0 adds'),
+            E('LDRB R2, [R3], #-0', 'ldrb r2, [r3], #0', '#-0 adds')]
     # Registers 0, 14 and 15 where they are allowed.
     out += [E('LDR R0, [R0]'), E('LDR R14, [R14, #-4]'), E('LDR PC, [SP], #4'), E('LDR PC, [R0, R1, LSL #2]'),
             E('LDR R0, [PC, #-8]'), E('LDR R1, [PC, #4095]'), E('LDR R2, [PC, R3]'), E('STR R14, [SP, #-4]!'),

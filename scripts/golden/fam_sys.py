@@ -51,7 +51,8 @@ def coproc(a):
     for op in ['LDC', 'STC', 'LDCL', 'STCL'] + (['LDC2', 'STC2', 'LDC2L', 'STC2L'] if v5 else []):
         for mode in modes:
             out.append(E('%s %s, c%d, %s' % (op, cps(), a.pick(range(16)), mode.format(n=a.regs(1)[0]))))
-    for c in ['EQ', 'NE', 'LT', 'AL']:
+    # No LT here: LDCLT and STCLT are the rows LDCL and STCL with a T.
+    for c in ['EQ', 'NE', 'GT', 'AL']:
         out += [E('CDP%s p2, #1, c1, c2, c3, #1' % c), E('MRC%s p15, #0, R2, c1, c0, #0' % c),
                 E('MCR%s p15, #0, R3, c7, c5, #4' % c), E('LDC%s p4, c5, [R6, #16]' % c),
                 E('STC%sL p4, c5, [R6], #-16' % c, 'stcl%s p4, c5, [r6], #-16' % low(c)),

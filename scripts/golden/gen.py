@@ -30,6 +30,7 @@ ARCH_OPTION = {'v4': '-v4', 'v5e': '-v5e', 'v6': '-v6', 'v7a': '-v7A8', 'v7r': '
 FAMILIES = [
     ('dp', 'data processing: every second-operand shape, conditions, flag letters in both orders',
      fam_core.dp, 4),
+    ('movw', 'MOVW, MOVT, and MOV of a value that no rotated byte holds', fam_core.movw_forms, 7),
     ('shifts', 'the shift mnemonics LSL LSR ASR ROR RRX, as MOV with a shifted register', fam_core.shifts, 4),
     ('mul', 'multiplies and long multiplies', fam_core.mul, 4),
     ('branch', 'branches with plain-number offsets (the offset itself), BX, BLX, BXJ, CRET', fam_core.branch, 4),
