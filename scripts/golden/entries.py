@@ -19,10 +19,13 @@ class E:
     refarch: the architecture the references are asked on, when the tools
          know the instruction only on a later one than the file's.
     label: a line that only defines this label.
+    raw: a line for this assembler alone, such as a symbol definition; the
+         references get the values in place of the symbols.
     """
 
-    def __init__(self, src=None, ref=None, note=None, want=None, refarch=None, label=None):
+    def __init__(self, src=None, ref=None, note=None, want=None, refarch=None, label=None, raw=None):
         self.src, self.ref, self.note, self.want, self.refarch, self.label = src, ref, note, want, refarch, label
+        self.raw = raw            # a line of this assembler only (a directive), written as it stands
         if self.ref is None:
             self.ref = src
         self.word = None          # set by the generator
@@ -31,6 +34,10 @@ class E:
 
 def lab(name):
     return E(label=name)
+
+
+def raw(text):
+    return E(raw=text)
 
 
 class Arch:

@@ -1,6 +1,6 @@
 """Families of the base instruction set: data processing, shifts, multiplies,
 branches, ADR and the register names."""
-from entries import CONDS, E, lab, low
+from entries import CONDS, E, lab, low, raw
 
 DP3 = ['AND', 'EOR', 'SUB', 'RSB', 'ADD', 'ADC', 'SBC', 'RSC', 'ORR', 'BIC']
 DP_CMP = ['TST', 'TEQ', 'CMP', 'CMN']
@@ -230,3 +230,20 @@ def regnames(a):
     out += [E('mov r0, r1'), E('Mov R2, r3'), E('add r4, r5, #0x10'), E('ldr r0, [r1, #4]'),
             E('addeq r0, r1, r2'), E('ldreqb r3, [r4]', 'ldrbeq r3, [r4]'), E('movseq r0, r1')]
     return out
+
+
+def expr(a):
+    return [raw('VAL     .set    0x10'), raw('SH      .equ    3'), raw('NEG     .set    -8'),
+            E('ADD R0, R1, #(1 << 8) + 4', 'add r0, r1, #260'), E('ADD R0, R1, #VAL * 2', 'add r0, r1, #32'),
+            E('MOV R2, R3, LSL #SH', 'mov r2, r3, lsl #3'), E('LDR R4, [R5, #VAL - 4]', 'ldr r4, [r5, #12]'),
+            E('LDR R4, [R5, #NEG]', 'ldr r4, [r5, #-8]'), E('STRH R6, [R7, #NEG * 2]!', 'strh r6, [r7, #-16]!'),
+            E('ADD R0, R1, #LATER', 'add r0, r1, #12', 'defined further down'),
+            E("SUB R0, R1, #'A'", 'sub r0, r1, #65'), E('ORR R0, R1, #0x0F0 | 0xF00', 'orr r0, r1, #0xff0'),
+            E('MOV R0, #-1 & 0xFF', 'mov r0, #255'), E('ADD R0, R1, #10 % 3', 'add r0, r1, #1'),
+            E('CMP R0, #-VAL', 'cmn r0, #16', 'becomes CMN'), E('ADD R0, R1, #R3', 'add r0, r1, #3', '#R3 is 3'),
+            E('LDR R0, [R1, R2, LSL #0]', 'ldr r0, [r1, r2]', 'a shift by 0 is no shift'),
+            E('LDR R0, [R1, -R2, LSR #0]', 'ldr r0, [r1, -r2]', 'a shift by 0 is no shift'),
+            E('SWI #VAL + 1', 'svc #17'), E('B VAL', 'b {br:16}'), E('BNE LATER * 4', 'bne {br:48}'),
+            E('MRC p15, #SH - 3, R0, c1, c0, #SH', 'mrc p15, #0, r0, c1, c0, #3'),
+            E('MOV R0, #VAL << 24', 'mov r0, #0x10000000'), E('MVN R1, #LATER', 'mvn r1, #12'),
+            raw('LATER   .set    12')]

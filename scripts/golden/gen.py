@@ -36,6 +36,7 @@ FAMILIES = [
     ('branch', 'branches with plain-number offsets (the offset itself), BX, BLX, BXJ, CRET', fam_core.branch, 4),
     ('adr', 'ADR with an offset and with labels of the section', fam_core.adr, 4),
     ('regnames', 'register names and lower case', fam_core.regnames, 4),
+    ('expr', 'operands that are expressions and symbols, also defined further down', fam_core.expr, 4),
     ('ldst', 'word and byte loads and stores: every addressing mode, T forms, suffix orders', fam_mem.ldst, 4),
     ('ldst_half', 'halfword and signed loads and stores: every addressing mode, suffix orders',
      fam_mem.ldst_half, 4),
@@ -83,6 +84,8 @@ def encode_file(arch, entries, review, where):
     pcs, labels, pc = {}, {}, 0
     pending = []
     for e in entries:
+        if e.raw:
+            continue
         if e.label:
             pending.append(e.label)
             labels[e.label] = pc
@@ -92,7 +95,7 @@ def encode_file(arch, entries, review, where):
         pc += 4
     groups = {}
     for e in entries:
-        if not e.label and e.want is None:
+        if not e.label and not e.raw and e.want is None:
             groups.setdefault(e.refarch or arch, []).append(e)
     for refarch, group in groups.items():
         llvm = llvm_encode([resolve(e.ref, pcs[id(e)], labels, 'llvm') for e in group], refarch)
@@ -117,8 +120,8 @@ def render(arch, name, what, entries, big):
             '; RUN: %%s %%o %s%s' % (ARCH_OPTION[arch], ' --endian=big' if big else '')]
     body = []
     for e in entries:
-        if e.label:
-            body.append(e.label)
+        if e.label or e.raw:
+            body.append(e.label or e.raw)
             continue
         if e.word is None:
             continue

@@ -7,7 +7,7 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 import fam_mem  # noqa: E402
 import gen  # noqa: E402
-from entries import Arch, E, lab, rot_ok  # noqa: E402
+from entries import Arch, E, lab, raw, rot_ok  # noqa: E402
 from refs import gnu_encode, llvm_encode  # noqa: E402
 
 
@@ -45,7 +45,7 @@ class Helpers(unittest.TestCase):
 
     def test_render(self):
         entries = [lab('here'), E('ADD R0, R1, #-1', note='becomes SUB'), E('MOV R0, R1'),
-                   E('UDF #1', refarch='v7a'), E('FOO')]
+                   E('UDF #1', refarch='v7a'), E('FOO'), raw('X       .set    1')]
         for e, w in zip(entries[1:], [0xE2410001, 0xE1A00001, 0xE7F000F1, None]):
             e.word = w
         text = gen.render('v4', 'x', 'things', entries, True).splitlines()
@@ -55,7 +55,8 @@ class Helpers(unittest.TestCase):
         self.assertEqual(text[4], '        ADD     R0, R1, #-1' + ' ' * 21 + ';= e2410001  ; note: becomes SUB')
         self.assertTrue(text[5].endswith(';= e1a00001'))
         self.assertTrue(text[6].endswith('; note: the references know it only from v7a'))
-        self.assertEqual(len(text), 7)  # a line without a value is left out
+        self.assertEqual(text[7], 'X       .set    1')
+        self.assertEqual(len(text), 8)  # a line without a value is left out
 
 
 class References(unittest.TestCase):
