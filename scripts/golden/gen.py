@@ -61,8 +61,10 @@ FAMILIES = [
     ('bitfield', 'bit-field clear, insert and extract', fam_media.bitfield, 7),
 ]
 
-# A few files again in big-endian byte order: the values stay the same.
-BIG = {('v4', 'ldst'), ('v5e', 'dsp'), ('v6', 'parallel'), ('v7a', 'shifts'), ('v7r', 'branch')}
+# A few files again in big-endian byte order (the values stay the same), with
+# the architecture option of the copy: the v7-R copy runs on the R5.
+BIG = {('v4', 'ldst'): '-v4', ('v5e', 'dsp'): '-v5e', ('v6', 'parallel'): '-v6', ('v7a', 'shifts'): '-v7A8',
+       ('v7r', 'branch'): '-v7R5'}
 
 
 def resolve(ref, pc, labels, tool):
@@ -117,7 +119,7 @@ def encode_file(arch, entries, review, where):
 def render(arch, name, what, entries, big):
     head = ['; %s%s.' % (what[0].upper(), what[1:]),
             '; Written by scripts/golden/gen.py: change the generator, not this file.',
-            '; RUN: %%s %%o %s%s' % (ARCH_OPTION[arch], ' --endian=big' if big else '')]
+            '; RUN: %%s %%o %s' % (BIG[arch, name] + ' --endian=big' if big else ARCH_OPTION[arch])]
     body = []
     for e in entries:
         if e.label or e.raw:

@@ -48,7 +48,7 @@ class Helpers(unittest.TestCase):
                    E('UDF #1', refarch='v7a'), E('FOO'), raw('X       .set    1')]
         for e, w in zip(entries[1:], [0xE2410001, 0xE1A00001, 0xE7F000F1, None]):
             e.word = w
-        text = gen.render('v4', 'x', 'things', entries, True).splitlines()
+        text = gen.render('v4', 'ldst', 'things', entries, True).splitlines()
         self.assertEqual(text[0], '; Things.')
         self.assertEqual(text[2], '; RUN: %s %o -v4 --endian=big')
         self.assertEqual(text[3], 'here')
@@ -57,6 +57,18 @@ class Helpers(unittest.TestCase):
         self.assertTrue(text[6].endswith('; note: the references know it only from v7a'))
         self.assertEqual(text[7], 'X       .set    1')
         self.assertEqual(len(text), 8)  # a line without a value is left out
+
+
+class Review(unittest.TestCase):
+    def test_disagreements_are_listed_not_written(self):
+        entries = [E('MSR APSR_g, R1', 'msr apsr_g, r1'), E('MOV R0, R1'), E('BLX 2', want=0xFA000001),
+                   E('ADD R0, R1', 'add r0')]
+        review = []
+        gen.encode_file('v6', entries, review, 'v6/x')
+        self.assertEqual([e.word for e in entries], [None, 0xE1A00001, 0xFA000001, None])
+        self.assertEqual(len(review), 2)
+        self.assertIn('llvm-mc[v6]: e124f001 | GNU as: rejected', review[0])
+        self.assertIn('llvm-mc[v6]: rejected', review[1])
 
 
 class References(unittest.TestCase):

@@ -1,6 +1,6 @@
 ; Branches with plain-number offsets (the offset itself), BX, BLX, BXJ, CRET.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
-; RUN: %s %o -v7R4 --endian=big
+; RUN: %s %o -v7R5 --endian=big
         B       0                               ;= ea000000
         BL      0                               ;= eb000000
         B       8                               ;= ea000002
