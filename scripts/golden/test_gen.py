@@ -57,6 +57,11 @@ class Helpers(unittest.TestCase):
         self.assertTrue(text[6].endswith('; note: the references know it only from v7a'))
         self.assertEqual(text[7], 'X       .set    1')
         self.assertEqual(len(text), 8)  # a line without a value is left out
+        gen.XFAIL['ldst'] = 'not yet'
+        try:
+            self.assertEqual(gen.render('v4', 'ldst', 'things', [], False).splitlines()[3], '; XFAIL: not yet')
+        finally:
+            del gen.XFAIL['ldst']
 
 
 class Review(unittest.TestCase):
