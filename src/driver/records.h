@@ -116,6 +116,7 @@ struct instruct {
   uint8_t ia_cond;         // condition code, 14 (always) when none is written
   uint32_t ia_flags;       // letters of the mnemonic's suffix; IT: the T/E groups
   char ia_prefix[3];       // prefix of a parallel add/subtract ("S", "UQ", ...), or empty
+  uint32_t ia_errors;      // errors counted when the statement was read
 
   const dir_oprec *dir() const { return static_cast<const dir_oprec *>(record); }
 };

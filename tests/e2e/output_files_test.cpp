@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char *GOOD = " .text\n .word 1\n";
-constexpr const char *BAD = " .text\n .word 1\n bogus\n";
+constexpr const char *BAD = " .text\n .word 1\n .word 1,,2\n";
 
 class OutputFiles : public ZqDirFixture {
 protected:

@@ -63,6 +63,3 @@ void OPR_shape_fault();
 // The mnemonic row of the name (upper case), found once per name by the caller.
 const mnemonic_row *OPR_find_row(const char *name);
 
-// MOVW and MOVT, ARM state and Thumb-2 (ic_id 125, class t2_dp_4). The ARM
-// data-processing encoder runs it for a MOV whose immediate has no rotated form.
-void encode_movw_movt(instruct *ir);

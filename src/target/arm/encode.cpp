@@ -36,7 +36,10 @@ void write_zeros(instruct *ir) {
   IOR_write(&ir->ior, instlen * 8 > 32 ? 32 : instlen * 8, 0, 0);
 }
 
-bool line_has_message(const instruct *ir) { return ir->line && ir->line->messages[0]; }
+// One mistake gives one message: an operand the parser already refused needs
+// no further word. A warning alone doesn't count, or a statement that lost its
+// operands would pass with zeros for its bits.
+bool statement_has_error(const instruct *ir) { return num_errors != ir->ia_errors; }
 
 void write_base(instruct *ir) {
   const uint32_t base = ia_opcode(ir);
@@ -100,7 +103,7 @@ void encode_krv616_ins(instruct *ir) {
   }
   for (int i = 0; i < cls->ic_min_ops; ++i) {
     if (ia_op(ir, i)) continue;
-    if (!line_has_message(ir)) error(ir->line, "E0005", "Missing operand(s)");
+    if (!statement_has_error(ir)) error(ir->line, "E0005", "Missing operand(s)");
     write_zeros(ir);
     return;
   }

@@ -23,6 +23,7 @@ constexpr encoder_row encoder_rows[] = {
     {41, encode_v6_mull}, {42, encode_usad},    {43, encode_pack},    {44, encode_pack},
     {45, encode_v6_mull}, {46, encode_mull},    {47, encode_cps},     {48, encode_cps},
     {49, encode_vfp},     {50, encode_vfp},
+    {125, encode_movw_movt},
     {143, encode_rfe},    {144, encode_srs},    {145, encode_smi},    {146, encode_hint},
     {147, encode_hint},   {148, encode_sg},     {149, encode_tt},
     {223, encode_ldrex},  {224, encode_ldrexd}, {225, encode_strex},  {226, encode_strexd},

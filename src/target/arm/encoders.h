@@ -17,6 +17,9 @@ void encode_adr(instruct *ir);         // 15
 // Data processing (enc_dp.cpp).
 void encode_dp(instruct *ir);          // 2
 void encode_clz(instruct *ir);         // 3
+// MOVW and MOVT in ARM state and Thumb-2 (class t2_dp_4); also run for a MOV
+// whose immediate has no rotated form.
+void encode_movw_movt(instruct *ir);   // 125
 
 // Multiplies and saturating arithmetic (enc_mul.cpp).
 void encode_mul(instruct *ir);         // 5

@@ -75,6 +75,7 @@ std::string ual_translate_name(const std::string &name);
 // Q, SH, U, UQ, UH; *length_out gets the prefix length. The prefix is kept for
 // the parser.
 bool has_mext_prefix(const char *name, int *length_out);
-// Starts the statement's suffix record (cur_suffixes) for a row whose class
-// takes data-type suffixes.
+// For a row whose class takes data-type suffixes: reads the suffixes and the
+// alignment written behind the mnemonic's word (curtk) into cur_suffixes,
+// with their messages; the lexer goes on behind them.
 void parse_simd_suffix(const mnemonic_row *row);

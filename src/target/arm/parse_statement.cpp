@@ -145,6 +145,7 @@ instruct *TRG_parse() {
   const mnemonic_row *row = curtk->value.op->mnemonic();
   instruct *ir = IR_alloc(IR_MNEMONIC, row, line);
   ir->ia_cond = COND_AL;
+  ir->ia_errors = num_errors;
   const inst_class *cls = ia_class(ir);
   const bool typed = PRS_has_type_suffixes(cls);
   if (typed) {

@@ -11,6 +11,7 @@
 #include "target/arm/arch.h"
 #include "target/arm/glue_pending.h"
 #include "target/arm/opcodes.h"
+#include "target/arm/simd_vfp.h"
 #include "target/arm/trg.h"
 
 ARM_ARCH_TYPES arm_arch_types;
@@ -89,6 +90,7 @@ void TRG_verify_options() {
 }
 
 void TRG_initialize() {
+  simd_vfp_init();
   SCN_trg_align = ARM_trg_align;
 }
 

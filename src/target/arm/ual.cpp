@@ -91,10 +91,3 @@ bool has_mext_prefix(const char *name, int *length_out) {
   if (length_out) *length_out = static_cast<int>(at);
   return true;
 }
-
-void parse_simd_suffix(const mnemonic_row *) {
-  // Every slot starts absent, so a statement never sees the suffixes of the
-  // one before it. The suffix text itself stays on the line for the parser.
-  for (simd_suffix &s : cur_suffixes.types) s = {0x1, 0};
-  cur_suffixes.align = 0;
-}

@@ -183,14 +183,14 @@ TEST_F(EncDpFields, Thumb2SlotMessages) {
     const char *words;
   };
   const message_case cases[] = {
-      {{"SMLAD", T2, {R(0), R(1), R(2), R(15)}}, "Operand Racc cannot be R15"},
-      {{"SMLAD", ARM, {R(0), R(1), R(2), R(15)}}, "Operand Rn cannot be R15"},
-      {{"SMLAWB", T2, {R(0), R(1), R(2), I(3)}}, "Operand Racc must be a register"},
-      {{"MOVW", T2, {R(0), I(0x10000)}}, "Immediate cannot be greater than 16-bits"},
-      {{"MOVT", T2, {R(15), I(1)}}, "Specifying R15 as an operand is illegal"},
-      {{"PKHTB", T2, {R(0), R(1), SH(2, SHIFT_LSL, 3)}}, "Illegal shift type. Must be ASR"},
-      {{"USAT", T2, {R(0), I(32), R(1)}}, "Illegal operand for immediate"},
-      {{"SXTAB", ARM, {R(0), R(15), R(1)}}, "Operand Rn cannot be R15"},
+      {{"SMLAD", T2, {R(0), R(1), R(2), R(15)}, 0}, "Operand Racc cannot be R15"},
+      {{"SMLAD", ARM, {R(0), R(1), R(2), R(15)}, 0}, "Operand Rn cannot be R15"},
+      {{"SMLAWB", T2, {R(0), R(1), R(2), I(3)}, 0}, "Operand Racc must be a register"},
+      {{"MOVW", T2, {R(0), I(0x10000)}, 0}, "Immediate cannot be greater than 16-bits"},
+      {{"MOVT", T2, {R(15), I(1)}, 0}, "Specifying R15 as an operand is illegal"},
+      {{"PKHTB", T2, {R(0), R(1), SH(2, SHIFT_LSL, 3)}, 0}, "Illegal shift type. Must be ASR"},
+      {{"USAT", T2, {R(0), I(32), R(1)}, 0}, "Illegal operand for immediate"},
+      {{"SXTAB", ARM, {R(0), R(15), R(1)}, 0}, "Operand Rn cannot be R15"},
   };
   for (const message_case &m : cases) {
     const std::string messages = encode(m.c.row, m.c.state, m.c.ops);
