@@ -1,0 +1,52 @@
+// The corpus under tests/golden/<arch> is what scripts/golden/gen.py writes
+// from the reference tools today: a hand edit or a generator change without
+// its output shows here. The generator's own unit tests run here too.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "zq_dir_fixture.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class GoldenGenerator : public ZqDirFixture {
+ protected:
+  void SetUp() override {
+    ZqDirFixture::SetUp();
+    if (sh("command -v python3 && command -v llvm-mc && command -v arm-none-eabi-as").status != 0)
+      GTEST_SKIP() << "python3, llvm-mc or arm-none-eabi-as missing (scripts/setup.sh installs them)";
+  }
+  const std::string scripts_ = "'" + (fs::path(ZQ_SOURCE_DIR) / "scripts" / "golden").string() + "'";
+};
+
+// The files of the architecture folders, relative to `root`.
+std::vector<std::string> generated_files(const fs::path &root) {
+  std::vector<std::string> out;
+  if (!fs::exists(root)) return out;
+  for (const auto &e : fs::recursive_directory_iterator(root)) {
+    const std::string rel = fs::relative(e.path(), root).string();
+    if (e.is_regular_file() && rel.starts_with("v")) out.push_back(rel);
+  }
+  std::sort(out.begin(), out.end());
+  return out;
+}
+
+TEST_F(GoldenGenerator, UnitTests) {
+  const ZqRun r = sh("PYTHONDONTWRITEBYTECODE=1 python3 -m unittest discover -s " + scripts_);
+  EXPECT_EQ(r.status, 0) << r.err;
+}
+
+TEST_F(GoldenGenerator, CorpusIsTheGeneratorsOutput) {
+  const ZqRun r = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/gen.py --out out --review review.txt");
+  ASSERT_EQ(r.status, 0) << r.err;
+  const fs::path checked_in = fs::path(ZQ_SOURCE_DIR) / "tests" / "golden";
+  const std::vector<std::string> made = generated_files(path("out"));
+  EXPECT_EQ(made, generated_files(checked_in));
+  for (const std::string &f : made)
+    EXPECT_TRUE(slurp(path("out") / f) == slurp(checked_in / f)) << f << " differs from a fresh run of gen.py";
+  EXPECT_EQ(get("review.txt"), slurp(fs::path(ZQ_SOURCE_DIR) / "scripts" / "golden" / "review.txt"));
+}
+
+}  // namespace

@@ -1,0 +1,43 @@
+; NOP, hints, barriers, BKPT, SVC, SMI, UDF, FMSTAT.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v4
+        NOP                                     ;= e1a00000
+        NOPEQ                                   ;= 01a00000
+        NOPNE                                   ;= 11a00000
+        SWI     #0                              ;= ef000000
+        SVC     #0                              ;= ef000000
+        SWI     #0xFFFFFF                       ;= efffffff
+        SVC     #0xFFFFFF                       ;= efffffff
+        SWI     #0x123456                       ;= ef123456
+        SVC     #0x123456                       ;= ef123456
+        SWI     #1                              ;= ef000001
+        SVC     #1                              ;= ef000001
+        SWI     #0x800000                       ;= ef800000
+        SVC     #0x800000                       ;= ef800000
+        SVCEQ   #14                             ;= 0f00000e
+        SVCNE   #14                             ;= 1f00000e
+        SVCCS   #14                             ;= 2f00000e
+        SVCCC   #14                             ;= 3f00000e
+        SVCMI   #14                             ;= 4f00000e
+        SVCPL   #14                             ;= 5f00000e
+        SVCVS   #14                             ;= 6f00000e
+        SVCVC   #14                             ;= 7f00000e
+        SVCHI   #14                             ;= 8f00000e
+        SVCLS   #14                             ;= 9f00000e
+        SVCGE   #14                             ;= af00000e
+        SVCLT   #14                             ;= bf00000e
+        SVCGT   #14                             ;= cf00000e
+        SVCLE   #14                             ;= df00000e
+        SVCAL   #14                             ;= ef00000e
+        SVCHS   #14                             ;= 2f00000e
+        SVCLO   #14                             ;= 3f00000e
+        SWIEQ   #1                              ;= 0f000001
+        SWIAL   #0xABCDEF                       ;= efabcdef
+        UDF     #0                              ;= e7f000f0  ; note: the references know it only from v7a
+        UDF     #1                              ;= e7f000f1  ; note: the references know it only from v7a
+        UDF     #16                             ;= e7f001f0  ; note: the references know it only from v7a
+        UDF     #65535                          ;= e7ffffff  ; note: the references know it only from v7a
+        UDF     #4660                           ;= e7f123f4  ; note: the references know it only from v7a
+        UDF     #65520                          ;= e7fffff0  ; note: the references know it only from v7a
+        FMSTAT                                  ;= eef1fa10  ; note: base value only: no VFP check
+        FMSTATEQ                                ;= 0ef1fa10  ; note: base value only: no VFP check

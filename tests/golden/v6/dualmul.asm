@@ -1,0 +1,44 @@
+; Dual and most-significant-word multiplies, long accumulates.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v6
+        SMLAD   R10, R4, R3, R11                ;= e70ab314
+        SMLADEQ R6, R12, R4, R3                 ;= 0706341c
+        SMLADX  R13, R6, R10, R8                ;= e70d8a36
+        SMLADXEQ R3, R13, R5, R6                ;= 0703653d
+        SMLSD   R3, R12, R4, R5                 ;= e703545c
+        SMLSDEQ R6, R1, R14, R2                 ;= 07062e51
+        SMLSDX  R8, R12, R10, R7                ;= e7087a7c
+        SMLSDXEQ R8, R7, R12, R5                ;= 07085c77
+        SMMLA   R6, R2, R10, R8                 ;= e7568a12
+        SMMLAEQ R5, R12, R14, R9                ;= 07559e1c
+        SMMLAR  R4, R5, R6, R11                 ;= e754b635
+        SMMLAREQ R7, R0, R3, R12                ;= 0757c330
+        SMMLS   R6, R7, R13, R9                 ;= e7569dd7
+        SMMLSEQ R6, R8, R7, R5                  ;= 075657d8
+        SMMLSR  R9, R12, R5, R11                ;= e759b5fc
+        SMMLSREQ R9, R2, R5, R7                 ;= 075975f2
+        SMUAD   R3, R1, R9                      ;= e703f911
+        SMUADNE R8, R1, R7                      ;= 1708f711
+        SMUADX  R7, R8, R13                     ;= e707fd38
+        SMUADXNE R2, R13, R12                   ;= 1702fc3d
+        SMUSD   R13, R7, R10                    ;= e70dfa57
+        SMUSDNE R3, R11, R6                     ;= 1703f65b
+        SMUSDX  R6, R4, R1                      ;= e706f174
+        SMUSDXNE R11, R3, R0                    ;= 170bf073
+        SMMUL   R11, R8, R14                    ;= e75bfe18
+        SMMULNE R11, R2, R9                     ;= 175bf912
+        SMMULR  R6, R5, R11                     ;= e756fb35
+        SMMULRNE R11, R0, R10                   ;= 175bfa30
+        SMLALD  R10, R14, R8, R7                ;= e74ea718
+        SMLALDGE R14, R8, R12, R10              ;= a748ea1c
+        SMLALDX R10, R7, R4, R12                ;= e747ac34
+        SMLALDXGE R14, R5, R6, R12              ;= a745ec36
+        SMLSLD  R12, R14, R8, R0                ;= e74ec058
+        SMLSLDGE R10, R7, R8, R5                ;= a747a558
+        SMLSLDX R12, R0, R1, R5                 ;= e740c571
+        SMLSLDXGE R13, R1, R12, R5              ;= a741d57c
+        UMAAL   R12, R13, R6, R4                ;= e04dc496
+        UMAALGE R11, R0, R14, R9                ;= a040b99e
+        UMAAL   R14, R0, R1, R2                 ;= e040e291
+        SMLAD   R14, R14, R14, R0               ;= e70e0e1e
+        SMMUL   R0, R14, R14                    ;= e750fe1e

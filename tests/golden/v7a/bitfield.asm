@@ -1,0 +1,41 @@
+; Bit-field clear, insert and extract.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v7A8
+        BFC     R4, #0, #1                      ;= e7c0401f
+        BFI     R4, R3, #0, #1                  ;= e7c04013
+        SBFX    R9, R4, #0, #1                  ;= e7a09054
+        UBFX    R9, R4, #0, #1                  ;= e7e09054
+        BFC     R5, #0, #32                     ;= e7df501f
+        BFI     R5, R11, #0, #32                ;= e7df501b
+        SBFX    R7, R13, #0, #32                ;= e7bf705d
+        UBFX    R7, R13, #0, #32                ;= e7ff705d
+        BFC     R13, #31, #1                    ;= e7dfdf9f
+        BFI     R13, R6, #31, #1                ;= e7dfdf96
+        SBFX    R12, R1, #31, #1                ;= e7a0cfd1
+        UBFX    R12, R1, #31, #1                ;= e7e0cfd1
+        BFC     R0, #8, #8                      ;= e7cf041f
+        BFI     R0, R5, #8, #8                  ;= e7cf0415
+        SBFX    R3, R0, #8, #8                  ;= e7a73450
+        UBFX    R3, R0, #8, #8                  ;= e7e73450
+        BFC     R11, #16, #16                   ;= e7dfb81f
+        BFI     R11, R0, #16, #16               ;= e7dfb810
+        SBFX    R5, R2, #16, #16                ;= e7af5852
+        UBFX    R5, R2, #16, #16                ;= e7ef5852
+        BFC     R7, #1, #31                     ;= e7df709f
+        BFI     R7, R3, #1, #31                 ;= e7df7093
+        SBFX    R12, R10, #1, #31               ;= e7bec0da
+        UBFX    R12, R10, #1, #31               ;= e7fec0da
+        BFC     R9, #4, #12                     ;= e7cf921f
+        BFI     R9, R5, #4, #12                 ;= e7cf9215
+        SBFX    R10, R7, #4, #12                ;= e7aba257
+        UBFX    R10, R7, #4, #12                ;= e7eba257
+        BFC     R10, #30, #2                    ;= e7dfaf1f
+        BFI     R10, R4, #30, #2                ;= e7dfaf14
+        SBFX    R3, R14, #30, #2                ;= e7a13f5e
+        UBFX    R3, R14, #30, #2                ;= e7e13f5e
+        BFCEQ   R0, #4, #4                      ;= 07c7021f
+        BFINE   R1, R2, #0, #8                  ;= 17c71012
+        SBFXGT  R3, R4, #7, #9                  ;= c7a833d4
+        UBFXLE  R5, R6, #2, #30                 ;= d7fd5156
+        BFI     R14, R0, #3, #3                 ;= e7c5e190
+        UBFX    R0, R14, #31, #1                ;= e7e00fde

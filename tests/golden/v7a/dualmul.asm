@@ -1,0 +1,44 @@
+; Dual and most-significant-word multiplies, long accumulates.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v7A8
+        SMLAD   R7, R12, R2, R14                ;= e707e21c
+        SMLADEQ R2, R9, R4, R5                  ;= 07025419
+        SMLADX  R6, R13, R11, R14               ;= e706eb3d
+        SMLADXEQ R3, R13, R12, R0               ;= 07030c3d
+        SMLSD   R14, R8, R9, R0                 ;= e70e0958
+        SMLSDEQ R12, R13, R8, R0                ;= 070c085d
+        SMLSDX  R14, R12, R0, R1                ;= e70e107c
+        SMLSDXEQ R11, R5, R8, R1                ;= 070b1875
+        SMMLA   R4, R0, R14, R10                ;= e754ae10
+        SMMLAEQ R7, R1, R8, R10                 ;= 0757a811
+        SMMLAR  R8, R12, R0, R1                 ;= e758103c
+        SMMLAREQ R6, R1, R4, R12                ;= 0756c431
+        SMMLS   R5, R14, R9, R8                 ;= e75589de
+        SMMLSEQ R7, R14, R13, R2                ;= 07572dde
+        SMMLSR  R0, R14, R11, R3                ;= e7503bfe
+        SMMLSREQ R9, R6, R3, R12                ;= 0759c3f6
+        SMUAD   R3, R6, R2                      ;= e703f216
+        SMUADNE R6, R14, R5                     ;= 1706f51e
+        SMUADX  R8, R0, R12                     ;= e708fc30
+        SMUADXNE R10, R1, R3                    ;= 170af331
+        SMUSD   R9, R7, R11                     ;= e709fb57
+        SMUSDNE R14, R3, R7                     ;= 170ef753
+        SMUSDX  R5, R8, R1                      ;= e705f178
+        SMUSDXNE R6, R5, R13                    ;= 1706fd75
+        SMMUL   R4, R6, R11                     ;= e754fb16
+        SMMULNE R5, R2, R10                     ;= 1755fa12
+        SMMULR  R7, R9, R6                      ;= e757f639
+        SMMULRNE R3, R1, R13                    ;= 1753fd31
+        SMLALD  R4, R7, R0, R3                  ;= e7474310
+        SMLALDGE R1, R5, R9, R3                 ;= a7451319
+        SMLALDX R12, R2, R5, R11                ;= e742cb35
+        SMLALDXGE R7, R2, R13, R3               ;= a742733d
+        SMLSLD  R4, R11, R5, R3                 ;= e74b4355
+        SMLSLDGE R5, R2, R10, R0                ;= a742505a
+        SMLSLDX R12, R6, R7, R14                ;= e746ce77
+        SMLSLDXGE R0, R5, R13, R6               ;= a745067d
+        UMAAL   R8, R0, R9, R1                  ;= e0408199
+        UMAALGE R11, R8, R6, R10                ;= a048ba96
+        UMAAL   R14, R0, R1, R2                 ;= e040e291
+        SMLAD   R14, R14, R14, R0               ;= e70e0e1e
+        SMMUL   R0, R14, R14                    ;= e750fe1e

@@ -1,0 +1,23 @@
+; Byte and bit reversal.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v7A8
+        REV     R3, R13                         ;= e6bf3f3d
+        REV     R11, R9                         ;= e6bfbf39
+        REV     R3, R6                          ;= e6bf3f36
+        REV     R14, R0                         ;= e6bfef30
+        REVEQ   R1, R14                         ;= 06bf1f3e
+        REV16   R12, R2                         ;= e6bfcfb2
+        REV16   R12, R13                        ;= e6bfcfbd
+        REV16   R6, R9                          ;= e6bf6fb9
+        REV16   R14, R0                         ;= e6bfefb0
+        REV16EQ R1, R14                         ;= 06bf1fbe
+        REVSH   R8, R0                          ;= e6ff8fb0
+        REVSH   R9, R6                          ;= e6ff9fb6
+        REVSH   R14, R10                        ;= e6ffefba
+        REVSH   R14, R0                         ;= e6ffefb0
+        REVSHEQ R1, R14                         ;= 06ff1fbe
+        RBIT    R8, R1                          ;= e6ff8f31
+        RBIT    R7, R10                         ;= e6ff7f3a
+        RBIT    R9, R5                          ;= e6ff9f35
+        RBIT    R14, R0                         ;= e6ffef30
+        RBITEQ  R1, R14                         ;= 06ff1f3e

@@ -1,0 +1,41 @@
+; Bit-field clear, insert and extract.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v7R4
+        BFC     R5, #0, #1                      ;= e7c0501f
+        BFI     R5, R12, #0, #1                 ;= e7c0501c
+        SBFX    R8, R5, #0, #1                  ;= e7a08055
+        UBFX    R8, R5, #0, #1                  ;= e7e08055
+        BFC     R12, #0, #32                    ;= e7dfc01f
+        BFI     R12, R9, #0, #32                ;= e7dfc019
+        SBFX    R6, R8, #0, #32                 ;= e7bf6058
+        UBFX    R6, R8, #0, #32                 ;= e7ff6058
+        BFC     R5, #31, #1                     ;= e7df5f9f
+        BFI     R5, R8, #31, #1                 ;= e7df5f98
+        SBFX    R3, R10, #31, #1                ;= e7a03fda
+        UBFX    R3, R10, #31, #1                ;= e7e03fda
+        BFC     R4, #8, #8                      ;= e7cf441f
+        BFI     R4, R10, #8, #8                 ;= e7cf441a
+        SBFX    R14, R5, #8, #8                 ;= e7a7e455
+        UBFX    R14, R5, #8, #8                 ;= e7e7e455
+        BFC     R4, #16, #16                    ;= e7df481f
+        BFI     R4, R7, #16, #16                ;= e7df4817
+        SBFX    R5, R3, #16, #16                ;= e7af5853
+        UBFX    R5, R3, #16, #16                ;= e7ef5853
+        BFC     R5, #1, #31                     ;= e7df509f
+        BFI     R5, R14, #1, #31                ;= e7df509e
+        SBFX    R1, R3, #1, #31                 ;= e7be10d3
+        UBFX    R1, R3, #1, #31                 ;= e7fe10d3
+        BFC     R9, #4, #12                     ;= e7cf921f
+        BFI     R9, R3, #4, #12                 ;= e7cf9213
+        SBFX    R2, R12, #4, #12                ;= e7ab225c
+        UBFX    R2, R12, #4, #12                ;= e7eb225c
+        BFC     R1, #30, #2                     ;= e7df1f1f
+        BFI     R1, R11, #30, #2                ;= e7df1f1b
+        SBFX    R7, R10, #30, #2                ;= e7a17f5a
+        UBFX    R7, R10, #30, #2                ;= e7e17f5a
+        BFCEQ   R0, #4, #4                      ;= 07c7021f
+        BFINE   R1, R2, #0, #8                  ;= 17c71012
+        SBFXGT  R3, R4, #7, #9                  ;= c7a833d4
+        UBFXLE  R5, R6, #2, #30                 ;= d7fd5156
+        BFI     R14, R0, #3, #3                 ;= e7c5e190
+        UBFX    R0, R14, #31, #1                ;= e7e00fde

@@ -1,0 +1,44 @@
+; Dual and most-significant-word multiplies, long accumulates.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v7R4
+        SMLAD   R13, R7, R10, R12               ;= e70dca17
+        SMLADEQ R3, R1, R0, R13                 ;= 0703d011
+        SMLADX  R12, R7, R13, R9                ;= e70c9d37
+        SMLADXEQ R7, R10, R4, R6                ;= 0707643a
+        SMLSD   R2, R12, R0, R13                ;= e702d05c
+        SMLSDEQ R0, R11, R5, R10                ;= 0700a55b
+        SMLSDX  R7, R13, R12, R11               ;= e707bc7d
+        SMLSDXEQ R8, R4, R11, R5                ;= 07085b74
+        SMMLA   R5, R11, R1, R9                 ;= e755911b
+        SMMLAEQ R1, R8, R2, R13                 ;= 0751d218
+        SMMLAR  R3, R12, R11, R7                ;= e7537b3c
+        SMMLAREQ R9, R7, R10, R0                ;= 07590a37
+        SMMLS   R9, R8, R7, R4                  ;= e75947d8
+        SMMLSEQ R6, R12, R4, R5                 ;= 075654dc
+        SMMLSR  R0, R5, R14, R4                 ;= e7504ef5
+        SMMLSREQ R4, R12, R9, R0                ;= 075409fc
+        SMUAD   R5, R11, R3                     ;= e705f31b
+        SMUADNE R14, R5, R10                    ;= 170efa15
+        SMUADX  R5, R14, R4                     ;= e705f43e
+        SMUADXNE R0, R7, R11                    ;= 1700fb37
+        SMUSD   R8, R11, R9                     ;= e708f95b
+        SMUSDNE R9, R11, R1                     ;= 1709f15b
+        SMUSDX  R14, R6, R5                     ;= e70ef576
+        SMUSDXNE R2, R0, R9                     ;= 1702f970
+        SMMUL   R11, R8, R14                    ;= e75bfe18
+        SMMULNE R7, R3, R8                      ;= 1757f813
+        SMMULR  R0, R6, R5                      ;= e750f536
+        SMMULRNE R4, R5, R2                     ;= 1754f235
+        SMLALD  R8, R5, R2, R10                 ;= e7458a12
+        SMLALDGE R8, R4, R7, R0                 ;= a7448017
+        SMLALDX R9, R10, R13, R3                ;= e74a933d
+        SMLALDXGE R2, R0, R13, R1               ;= a740213d
+        SMLSLD  R0, R6, R11, R14                ;= e7460e5b
+        SMLSLDGE R6, R14, R9, R7                ;= a74e6759
+        SMLSLDX R12, R9, R2, R8                 ;= e749c872
+        SMLSLDXGE R10, R0, R2, R1               ;= a740a172
+        UMAAL   R6, R0, R7, R12                 ;= e0406c97
+        UMAALGE R6, R13, R2, R11                ;= a04d6b92
+        UMAAL   R14, R0, R1, R2                 ;= e040e291
+        SMLAD   R14, R14, R14, R0               ;= e70e0e1e
+        SMMUL   R0, R14, R14                    ;= e750fe1e

@@ -1,0 +1,23 @@
+; Byte and bit reversal.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v7R4
+        REV     R9, R1                          ;= e6bf9f31
+        REV     R9, R0                          ;= e6bf9f30
+        REV     R6, R10                         ;= e6bf6f3a
+        REV     R14, R0                         ;= e6bfef30
+        REVEQ   R1, R14                         ;= 06bf1f3e
+        REV16   R5, R8                          ;= e6bf5fb8
+        REV16   R12, R2                         ;= e6bfcfb2
+        REV16   R1, R4                          ;= e6bf1fb4
+        REV16   R14, R0                         ;= e6bfefb0
+        REV16EQ R1, R14                         ;= 06bf1fbe
+        REVSH   R12, R3                         ;= e6ffcfb3
+        REVSH   R4, R13                         ;= e6ff4fbd
+        REVSH   R12, R0                         ;= e6ffcfb0
+        REVSH   R14, R0                         ;= e6ffefb0
+        REVSHEQ R1, R14                         ;= 06ff1fbe
+        RBIT    R9, R12                         ;= e6ff9f3c
+        RBIT    R8, R3                          ;= e6ff8f33
+        RBIT    R5, R1                          ;= e6ff5f31
+        RBIT    R14, R0                         ;= e6ffef30
+        RBITEQ  R1, R14                         ;= 06ff1f3e
