@@ -67,7 +67,7 @@ operand *PRS_core_register(uint32_t number);
 // the end of the line.
 operand *PRS_operand(instruct *ir);
 // `[...]` addresses; curtk is the '['.
-operand *PRS_address(instruct *ir);
+operand *PRS_address();
 // `{...}` register lists; curtk is the '{'.
 operand *PRS_register_list();
 // The register class and number of a register value; false for other values.
@@ -75,10 +75,10 @@ bool PRS_register_of(const value_record &v, uint8_t *reg_class, uint32_t *number
 // The shift behind a register: curtk is the comma after it. A shift name
 // behind the comma is read with its amount into op; otherwise the comma stays
 // and nothing changes. `in_address` refuses register amounts.
-void PRS_shift(instruct *ir, operand *op, bool in_address);
+void PRS_shift(operand *op, bool in_address);
 // `#expr` or an absolute expression as an immediate: OP_ICON or OP_FCON, else
 // a failed operand after its message. curtk is the first token of the expression.
-operand *PRS_absolute(instruct *ir, bool floating, bool wide);
+operand *PRS_absolute(bool floating, bool wide);
 // Skips to the next comma or the line end.
 void PRS_skip_operand();
 // Skips past the next `close` token on the line (or to its end).

@@ -54,11 +54,11 @@ bool alignment() {
 // The offset of an address behind its comma: an option in braces, an
 // immediate, or a register with an optional shift. `pre` and `post` are the
 // kinds for an immediate; the register kinds follow them.
-bool address_offset(instruct *ir, operand *op, uint16_t immediate_kind, uint16_t register_kind) {
+bool address_offset(operand *op, uint16_t immediate_kind, uint16_t register_kind) {
   if (at(TK_LBRACE)) {
     next_token();
     if (at(TK_POUND)) next_token();
-    operand *option = PRS_absolute(ir, false, false);
+    operand *option = PRS_absolute(false, false);
     if (option->kind != OP_ICON) {
       IR_free_oprnd(option);
       return false;
@@ -73,7 +73,7 @@ bool address_offset(instruct *ir, operand *op, uint16_t immediate_kind, uint16_t
   }
   if (at(TK_POUND)) {
     next_token();
-    operand *offset = PRS_absolute(ir, false, false);
+    operand *offset = PRS_absolute(false, false);
     if (offset->kind != OP_ICON) {
       IR_free_oprnd(offset);
       return false;
@@ -105,7 +105,7 @@ bool address_offset(instruct *ir, operand *op, uint16_t immediate_kind, uint16_t
   }
   op->kind = register_kind;
   op->op_reg2 = static_cast<uint8_t>(number);
-  if (at(TK_COMMA)) PRS_shift(ir, op, true);
+  if (at(TK_COMMA)) PRS_shift(op, true);
   return op->kind != OP_NONE;
 }
 
@@ -145,7 +145,7 @@ operand *fail_list(const char *text) {
 
 }  // namespace
 
-operand *PRS_address(instruct *ir) {
+operand *PRS_address() {
   next_token();
   const expr_parse_state_t es{EXPR_MODE_ANY, 32, 1};
   value_record *v = EXPR_eval(es);
@@ -168,10 +168,10 @@ operand *PRS_address(instruct *ir) {
     next_token();
     if (!at(TK_COMMA)) return op;
     next_token();
-    if (address_offset(ir, op, OP_INDPOSTE, OP_INDPOSTS)) return op;
+    if (address_offset(op, OP_INDPOSTE, OP_INDPOSTS)) return op;
   } else if (at(TK_COMMA)) {
     next_token();
-    if (address_offset(ir, op, OP_INDPREE, OP_INDPRES)) {
+    if (address_offset(op, OP_INDPREE, OP_INDPRES)) {
       if (at(TK_RBRACKET)) next_token();
       else warn(here(), "W0000", "Missing right bracket, one assumed");
       return op;

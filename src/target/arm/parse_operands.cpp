@@ -218,7 +218,7 @@ bool plain_register(value_record *v) {
 
 // A register operand of the value's class, with its lane or shift; the
 // operand takes over the value's parts.
-operand *register_operand(instruct *ir, value_record *v, int fields) {
+operand *register_operand(value_record *v, int fields) {
   uint8_t reg_class = 0;
   uint32_t number = 0;
   PRS_register_of(*v, &reg_class, &number);
@@ -241,16 +241,16 @@ operand *register_operand(instruct *ir, value_record *v, int fields) {
     IR_free_oprnd(op);
     return PRS_failed();
   }
-  if (kind == OP_REGISTER && at(TK_COMMA)) PRS_shift(ir, op, false);
+  if (kind == OP_REGISTER && at(TK_COMMA)) PRS_shift(op, false);
   return op;
 }
 
 // An operand without '#': a register (with shift or lane), a status
 // register, a coprocessor number, or a target or integer expression.
-operand *expression(instruct *ir) {
+operand *expression() {
   const int fields = cut_psr_fields();
   value_record reg;
-  if (fields == -2 && plain_register(&reg)) return register_operand(ir, &reg, fields);
+  if (fields == -2 && plain_register(&reg)) return register_operand(&reg, fields);
   const expr_parse_state_t es{EXPR_MODE_ANY, 32, 1};
   value_record *v = EXPR_eval(es);
   if (!v->v_type || fields == -1) return fail_value(v);
@@ -258,7 +258,7 @@ operand *expression(instruct *ir) {
   if (v->v_type == VT_REG) {
     reg = *v;
     std::free(v);
-    return register_operand(ir, &reg, fields);
+    return register_operand(&reg, fields);
   }
   if (v->v_type == VT_COPRID) {
     operand *op = operand_from(v, OP_CPID);
@@ -317,7 +317,7 @@ bool PRS_register_of(const value_record &v, uint8_t *reg_class, uint32_t *number
   return true;
 }
 
-operand *PRS_absolute(instruct *, bool floating, bool wide) {
+operand *PRS_absolute(bool floating, bool wide) {
   const expr_parse_state_t es{floating ? EXPR_MODE_FLOAT : EXPR_MODE_RELOC, wide ? 128u : 32u, 1};
   value_record *v = EXPR_eval(es);
   if (!v->v_type) return fail_value(v);
@@ -348,7 +348,7 @@ operand *PRS_absolute(instruct *, bool floating, bool wide) {
   return fail_value(v);
 }
 
-void PRS_shift(instruct *ir, operand *op, bool in_address) {
+void PRS_shift(operand *op, bool in_address) {
   // Look behind the comma; a word that is no shift name gives it back.
   token *comma = curtk;
   get_token();
@@ -368,7 +368,7 @@ void PRS_shift(instruct *ir, operand *op, bool in_address) {
   }
   if (at(TK_POUND)) {
     next_token();
-    operand *amount = PRS_absolute(ir, false, false);
+    operand *amount = PRS_absolute(false, false);
     if (amount->kind != OP_ICON) {
       op->kind = OP_NONE;
     } else {
@@ -418,16 +418,16 @@ operand *PRS_operand(instruct *ir) {
   const unsigned id = ia_class(ir)->ic_id;
   operand *op = nullptr;
   if (curtk->kind == TK_LBRACKET) {
-    op = PRS_address(ir);
+    op = PRS_address();
   } else if (curtk->kind == TK_LBRACE) {
     op = PRS_register_list();
   } else if (curtk->kind == TK_IDENT && (id == 47 || id == 48 || id == 121 || id == 217)) {
     op = cps_flags();
   } else if (curtk->kind == TK_POUND) {
     next_token();
-    op = PRS_absolute(ir, (ir->ia_flags & IF_FLT_IMM) != 0, (ir->ia_flags & IF_FLT64_IMM) != 0);
+    op = PRS_absolute((ir->ia_flags & IF_FLT_IMM) != 0, (ir->ia_flags & IF_FLT64_IMM) != 0);
   } else {
-    op = expression(ir);
+    op = expression();
   }
   for (;;) {
     if (at(TK_NOT)) op->op_mods |= MOD_WRITEBACK;
