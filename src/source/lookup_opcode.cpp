@@ -22,11 +22,10 @@ bool has_type_suffixes(const ophashtbl *e) {
   return is_mnemonic(e) && PRS_has_type_suffixes(e->mnemonic()->slot[encode_state].cls);
 }
 
-// The name in unified mode goes through the translation table; buf holds it.
+// The name in unified mode goes through the translation table; buf holds a
+// translated name. Either is zero-terminated when `name` is.
 std::string_view translated(std::string_view name, std::string *buf) {
-  if (!ual_mode) return name;
-  UAL_translate(name, buf);
-  return *buf;
+  return ual_mode && UAL_translate(name, buf) ? std::string_view(*buf) : name;
 }
 
 ophashtbl *direct_search(std::string_view name) {
@@ -74,7 +73,8 @@ void lookup_opcode() {
   if (!curtk || curtk->kind != TK_IDENT || !curtk->value.sval) return;
   cur_ual_translation = nullptr;
   cur_mext_prefix[0] = '\0';
-  // Reused for every statement: no allocation on the way.
+  // Reused for every statement: no allocation on the way, and no copy of a
+  // name that needs no translation.
   static std::string name_buf;
   static std::string rest_buf;
   const std::string_view given(curtk->value.sval);

@@ -37,8 +37,8 @@ extern char cur_mext_prefix[3];
 // ---- Names (parse_suffix.cpp, ual.cpp) ----------------------------------------
 
 // In unified mode: *out gets the name with its longest unified prefix (for
-// the state) replaced by the older form; cur_ual_translation the row. False
-// when the name stays as it is (out is then a copy).
+// the state) replaced by the older form; cur_ual_translation the row. False,
+// and out untouched, when the name stays as it is.
 bool UAL_translate(std::string_view name, std::string *out);
 
 // True on v6 or higher when the name holds one of the parallel add/subtract

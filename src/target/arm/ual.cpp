@@ -45,7 +45,6 @@ bool starts_with(std::string_view text, const char *prefix) {
 
 bool UAL_translate(std::string_view name, std::string *out) {
   cur_ual_translation = nullptr;
-  out->assign(name);
   if (name.empty() || !(ual_first_letters() & letter_bit(LEX_upper(name[0])))) return false;
   const uint32_t state = arm_arch() == ARCH_V6M0 ? 1 : cur_state;
   // Longest unified prefix of at most 20 characters; the table is short, so a
@@ -71,8 +70,7 @@ bool UAL_translate(std::string_view name, std::string *out) {
 
 std::string ual_translate_name(const std::string &name) {
   std::string out;
-  UAL_translate(name, &out);
-  return out;
+  return UAL_translate(name, &out) ? out : name;
 }
 
 bool has_mext_prefix(const char *name, int *length_out) {
