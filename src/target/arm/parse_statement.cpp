@@ -135,6 +135,10 @@ void operands(instruct *ir) {
 
 }  // namespace
 
+namespace {
+constexpr unsigned IC_PARALLEL_ADDSUB = 35;
+}
+
 instruct *TRG_parse() {
   linebuf *line = curtk && curtk->line ? curtk->line : curline;
   if (!curtk || curtk->kind != IR_MNEMONIC || !curtk->value.op) {
@@ -167,7 +171,10 @@ instruct *TRG_parse() {
   if (ual_mode && cur_state == 2) it_condition_check(ir);
   width_qualifier(ir);
 
-  if (mext_paddsub_instruction(row->name)) std::memcpy(ir->ia_prefix, cur_mext_prefix, sizeof ir->ia_prefix);
+  // Only the parallel add/subtract rows have such names; the name search is
+  // not worth running for every statement.
+  if (cls->ic_id == IC_PARALLEL_ADDSUB && mext_paddsub_instruction(row->name))
+    std::memcpy(ir->ia_prefix, cur_mext_prefix, sizeof ir->ia_prefix);
   if (mext_szea_add_instruction(row->name)) ir->ia_flags |= IF_SZEA;
 
   if (cls->ic_id == 136) {
