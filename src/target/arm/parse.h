@@ -40,6 +40,9 @@ extern char cur_mext_prefix[3];
 // the state) replaced by the older form; cur_ual_translation the row. False,
 // and out untouched, when the name stays as it is.
 bool UAL_translate(std::string_view name, std::string *out);
+// Fills ual_name_table, the unified names by name, all rows of a name in
+// table order (start-up).
+void UAL_init();
 
 // True on v6 or higher when the name holds one of the parallel add/subtract
 // stems (also ASX, SAX in unified mode) and none of the add-extend stems;

@@ -12,6 +12,7 @@
 #include "target/arm/glue_pending.h"
 #include "target/arm/instr.h"
 #include "target/arm/opcodes.h"
+#include "target/arm/parse.h"
 #include "target/arm/simd_vfp.h"
 #include "target/arm/trg.h"
 
@@ -91,6 +92,7 @@ void TRG_verify_options() {
 }
 
 void TRG_initialize() {
+  UAL_init();
   simd_vfp_init();
   SCN_trg_align = ARM_trg_align;
 }

@@ -1,6 +1,8 @@
 // Name translations of the opcode lookup: unified names to the older rows,
 // and the parallel-arithmetic prefixes.
+#include <algorithm>
 #include <cstring>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -18,6 +20,9 @@ char cur_mext_prefix[3] = {};
 
 namespace {
 
+// Unified names are at most this long.
+constexpr size_t MAX_UAL_PREFIX = 20;
+
 constexpr uint32_t letter_bit(char c) { return c >= 'A' && c <= 'Z' ? 1u << (c - 'A') : 0; }
 
 // The first letters of the unified names: most words at the head of a
@@ -32,30 +37,36 @@ uint32_t ual_first_letters() {
   return mask;
 }
 
-// `text` begins with `prefix` (upper case), without regard to case.
-bool starts_with(std::string_view text, const char *prefix) {
-  const size_t n = std::strlen(prefix);
-  if (text.size() < n) return false;
-  for (size_t i = 0; i < n; ++i)
-    if (LEX_upper(text[i]) != prefix[i]) return false;
-  return true;
-}
-
 }  // namespace
+
+std::multimap<std::string_view, const ual_name_translation *> ual_name_table;
+
+void UAL_init() {
+  if (!ual_name_table.empty()) return;
+  for (const ual_name_translation *row = ual_to_old_mnemonics; row->ual_name; ++row)
+    ual_name_table.emplace(row->ual_name, row);
+}
 
 bool UAL_translate(std::string_view name, std::string *out) {
   cur_ual_translation = nullptr;
+  out->assign(name);
   if (name.empty() || !(ual_first_letters() & letter_bit(LEX_upper(name[0])))) return false;
+  if (ual_name_table.empty()) UAL_init();   // a tool that skipped the start-up
   const uint32_t state = arm_arch() == ARCH_V6M0 ? 1 : cur_state;
-  // Longest unified prefix of at most 20 characters; the table is short, so a
-  // scan costs less than building the prefixes.
+  // The longest prefix of at most 20 characters that names a row of the state.
+  char upper[MAX_UAL_PREFIX];
+  const size_t longest = std::min(name.size(), sizeof upper);
+  for (size_t i = 0; i < longest; ++i) upper[i] = LEX_upper(name[i]);
   const ual_name_translation *best = nullptr;
   size_t best_length = 0;
-  for (const ual_name_translation *row = ual_to_old_mnemonics; row->ual_name; ++row) {
-    const size_t n = std::strlen(row->ual_name);
-    if (row->state != state || n > 20 || n <= best_length || !starts_with(name, row->ual_name)) continue;
-    best = row;
-    best_length = n;
+  for (size_t n = longest; n >= 1 && !best; --n) {
+    auto [first, last] = ual_name_table.equal_range(std::string_view(upper, n));
+    for (auto it = first; it != last; ++it) {
+      if (it->second->state != state) continue;
+      best = it->second;
+      best_length = n;
+      break;
+    }
   }
   if (!best) return false;
   cur_ual_translation = best;
