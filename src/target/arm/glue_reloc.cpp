@@ -107,3 +107,7 @@ bool TRG_reloc_requires_sym_rel(value_record *value) { return value && value->v_
 bool TRG_reloc_addend_is_symrel_offset(const OFE::OF_RELOC_TYPE *) { return true; }
 
 bool TRG_requires_scaling(const OFE::OF_RELOC_TYPE *) { return true; }
+
+const OFE::OF_RELOC_TYPE *ARM_reloc_type(uint32_t generic) {
+  return ofile ? ofile->reloc_types().by_template_id(generic) : nullptr;
+}
