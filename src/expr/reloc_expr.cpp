@@ -122,6 +122,9 @@ void E_reloc(value_record *value, node *n) {
   bool known = true, forward = false, has_float = false;
   const value_record *reloc_leaf = nullptr;
   bool bad_node = false;
+  // Pass 1 only sizes statements: a program would be thrown away, and a
+  // chain of forward references would make one of any length.
+  const bool build = pass2 && ofile;
   E_walk(
       n, [](node *, int) {},
       [&](node *m, int) {
@@ -131,16 +134,16 @@ void E_reloc(value_record *value, node *n) {
           if (!reloc_leaf && is_relocatable(leaf)) reloc_leaf = leaf;
           if (m->n_op == EOP_FCON)
             has_float = true;
-          else
+          else if (build)
             append_leaf(value, m);
           return m;
         }
         uint32_t id = m->n_op < EOP_COUNT ? op_templates[m->n_op] : 0;
         if (m->n_op == EOP_SUB && !m->n_right) id = OFE::OFRE_NEG;
-        if (id)
-          E_rel_cat(value, element(id));
-        else
+        if (!id)
           bad_node = true;
+        else if (build)
+          E_rel_cat(value, element(id));
         return m;
       });
   value->v_known = known;
@@ -149,7 +152,7 @@ void E_reloc(value_record *value, node *n) {
   // pass 2 will.
   value->v_type = reloc_leaf ? reloc_leaf->v_type : 0;
   // Folding has reported a floating operand already.
-  if (has_float || (bad_node && !pass2) || !ofile) {
+  if (has_float || !build) {
     std::free(value->v_rel);
     value->v_rel = nullptr;
     value->v_rel_count = value->v_rel_cap = 0;

@@ -16,5 +16,5 @@ other:  bx      lr
 ; RELOC: .text 0000000c R_ARM_PC24 start
 ; RELOC: .text 00000010 R_ARM_PC24 ext
 ; SECTION: .text: fe ff ff ea fe ff ff eb fe ff ff eb fe ff ff 0a 00 00 00 eb
-; SYMBOL: ext 00000000 0 NOTYPE GLOBAL DEFAULT UND
-; SYMBOL: other 00000000 0 NOTYPE LOCAL DEFAULT .text2
+; SYMBOL: ext 00000000 0 NOTYPE GLOBAL
+; SYMBOL: other 00000000 0 FUNC LOCAL

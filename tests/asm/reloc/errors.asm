@@ -7,3 +7,4 @@ dst:    .word   ext * 2        ;! E0200 Unable to resolve this relocatable expre
         .sect   ".other"
 lab1:   .word   0
 lab2:   .word   0
+cx      .set    ext * 2         ;! E0003 .set/equ value cannot be a complex relocation expression
