@@ -13,10 +13,6 @@ int64_t num_thumb2_conv = 0;
 int64_t num_orig_thumb = 0;
 int64_t num_2opnd_conv = 0;
 
-// The relocations step makes it real with the mapping-symbol queries. No
-// Thumb code is assembled before the Thumb encoders, so no value changes.
-void adjust_thumb_symbol_values() {}
-
 // The COFF writer makes these real. No ZQ-COFF object can be made until
 // then, so they are not reached; if they were, say so.
 void set_zqcoff_fh_isa(unsigned) { error_internal(1, nullptr, "ZQ-COFF file header without the COFF writer"); }
