@@ -50,7 +50,7 @@ bool ident_is(const char *text) {
   return curtk->kind == TK_IDENT && curtk->value.sval && std::strcmp(curtk->value.sval, text) == 0;
 }
 
-// Returns null after the warning; the caller skips the line.
+// The warning of a bad operand; the rest of the line is skipped.
 bool refuse(instruct *ir, const char *text) {
   warn(ir->line, "W0000", "%s", text);
   DIR_skip_to_eol();
