@@ -10,10 +10,6 @@
 #include "ofe/object_file.h"
 #include "target/arm/trg.h"
 
-// The relocations step makes it real. Until then no relocation is made, so
-// there is nothing to tie.
-void RELOC_fixup() {}
-
 // The build attributes step makes it real, with the target's attributes that
 // this hands over to. Until then an object claims no attributes.
 void BA_gen_build_attributes() {

@@ -6,6 +6,7 @@
 #include "directives/sections.h"
 #include "driver/diag.h"
 #include "driver/records.h"
+#include "expr/reloc.h"
 #include "listing/listing.h"
 #include "source/lexer.h"
 #include "target/arm/trg.h"

@@ -4,7 +4,6 @@
 
 #include "driver/diag.h"
 #include "driver/records.h"
-#include "expr/reloc.h"
 #include "source/lexer.h"
 
 // Jump expansion makes it real; until then no section has a jump list and
@@ -27,9 +26,4 @@ void CSYM_asm_line(section_record *, instruct *ir) {
 void CSYM_patch_asmfunc_syms() {}
 void debug_sym(instruct *statement, int, int, int, int, const char *) {
   error(statement ? statement->line : curline, "E9999", "--cdebug_asm_data is not supported yet");
-}
-
-// Relocation emission makes it real, with the rest of its family.
-bool RELOC_is_scnrel(const value_record *value) {
-  return RELOC_const_scnrel_offset(value) && value->v_type != VT_LABEL && value->v_type != VT_LDLABEL;
 }

@@ -22,7 +22,3 @@ void CSYM_asm_line(section_record *section, instruct *ir);
 void CSYM_patch_asmfunc_syms();
 // COFF debug record of a data directive (--cdebug_asm_data).
 void debug_sym(instruct *statement, int type, int storage, int size, int tag, const char *name);
-
-// Relocation emission: the value can be relocated by its section's symbol.
-struct value_record;
-bool RELOC_is_scnrel(const value_record *value);

@@ -93,6 +93,8 @@ public:
     const OF_RELOC_TYPE *reloc_type(unsigned id);
     const OF_RELOC_TYPE *reloc_type(const char *template_name);
     const OF_RELOC_TYPE *machine_reloc_type(unsigned number);
+    // The whole table, for lookups that must not report a missing type.
+    const OF_RELOC_TYPE_TABLE &reloc_types();
 
     OF_MACHINE_DB *machine_db() const { return machine_db_m.get(); }
 
@@ -115,8 +117,6 @@ protected:
     void close_owned_handle();
 
 private:
-    const OF_RELOC_TYPE_TABLE &reloc_types();
-
     OF_FILE_HANDLE handle_m;
     std::string name_m;
     OF_ENDIAN host_endian_m;

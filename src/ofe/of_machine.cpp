@@ -182,13 +182,20 @@ void ARM_MACHINE_DB::rel_build_type_table(OF_RELOC_TYPE_TABLE &table)
 {
     for (const OF_RELOC_TEMPLATE *t = OF_ARM_RELOC_TEMPLATE_DB; t->id != ~0u; ++t) table.add_template(*t);
     OBJECT_FILE *f = ofile();
-    // The ZQ-COFF numbers come with the COFF writer.
-    if (!f || f->format() != OFF_ELF) return;
-    for (const OF_RELOC_TYPE_ROW *row = OF_ARM_ELF_RELOC_TYPE_DB; row->number != ~0u; ++row) {
-        if (!table.add_type(*row))
-            f->set_error(OFERR_WARNING, "cannot find relocation template %ld for %s relocation type %s (%ld)",
-                         static_cast<long>(row->template_id), OBJECT_FILE::machine_name(machine()),
-                         row->name, static_cast<long>(row->number));
+    if (!f) return;
+    auto add_rows = [&](const OF_RELOC_TYPE_ROW *rows) {
+        for (const OF_RELOC_TYPE_ROW *row = rows; row->number != ~0u; ++row) {
+            if (!table.add_type(*row))
+                f->set_error(OFERR_WARNING, "cannot find relocation template %ld for %s relocation type %s (%ld)",
+                             static_cast<long>(row->template_id), OBJECT_FILE::machine_name(machine()),
+                             row->name, static_cast<long>(row->number));
+        }
+    };
+    if (f->format() == OFF_ELF) {
+        add_rows(OF_ARM_ELF_RELOC_TYPE_DB);
+    } else {
+        add_rows(OF_COMMON_ZQCOFF_RELOC_TYPE_DB);
+        add_rows(OF_ARM_ZQCOFF_RELOC_TYPE_DB);
     }
 }
 

@@ -134,6 +134,16 @@ public:
     // The EABI version in the top byte of e_flags (ELF only).
     void set_eabi_version(unsigned char v);
     unsigned char eabi_version() const;
+
+    // Modes of code and data that mapping symbols give.
+    enum SECTION_MODE : unsigned { MODE_UNKNOWN = 0, MODE_ARM = 1, MODE_THUMB = 2, MODE_DATA = 3 };
+    // Section, then address, to the mode that starts there.
+    using MODE_MAP = std::map<const OF_SECTION *, std::map<uint64_t, unsigned>>;
+    MODE_MAP find_mapping_syms() const;
+    // The mode of the nearest mapping symbol at or below `addr`; 0 if none.
+    static unsigned section_mode_addr(const MODE_MAP &modes, uint64_t addr, const OF_SECTION *section);
+    // ELF with an EABI version: Thumb function symbols get bit 0 set.
+    void adjust_thumb_symbol_values();
 };
 
 }  // namespace OFE

@@ -266,6 +266,62 @@ const OF_RELOC_TYPE_ROW OF_ARM_ELF_RELOC_TYPE_DB[] = {
     {nullptr, ~0u, 0},
 };
 
+// ZQ-COFF numbers of the common templates, the expression operators included.
+const OF_RELOC_TYPE_ROW OF_COMMON_ZQCOFF_RELOC_TYPE_DB[] = {
+    {"R_ABS", 0, OFR_ABS},
+    {"R_NONE", 0x96, OFR_NONE},
+    {"R_RELBYTE", 0xF, OFR_RELBYTE},
+    {"R_RELWORD", 0x10, OFR_RELWORD},
+    {"R_RELLONG", 0x11, OFR_RELLONG},
+    {"R_PCRBYTE", 0x12, OFR_PCRBYTE},
+    {"R_PCRWORD", 0x13, OFR_PCRWORD},
+    {"R_PCRLONG", 0x14, OFR_PCRLONG},
+    {"R_ABS64", 0x15, OFR_ABS64},
+    {"RE_ADD", 0x4000, OFRE_ADD},
+    {"RE_SUB", 0x4001, OFRE_SUB},
+    {"RE_NEG", 0x4002, OFRE_NEG},
+    {"RE_MPY", 0x4003, OFRE_MPY},
+    {"RE_DIV", 0x4004, OFRE_DIV},
+    {"RE_MOD", 0x4005, OFRE_MOD},
+    {"RE_SR", 0x4006, OFRE_SR},
+    {"RE_ASR", 0x4007, OFRE_ASR},
+    {"RE_SL", 0x4008, OFRE_SL},
+    {"RE_AND", 0x4009, OFRE_AND},
+    {"RE_OR", 0x400A, OFRE_OR},
+    {"RE_XOR", 0x400B, OFRE_XOR},
+    {"RE_NOTB", 0x400C, OFRE_NOTB},
+    {"RE_ULDFLD", 0x400D, OFRE_ULDFLD},
+    {"RE_SLDFLD", 0x400E, OFRE_SLDFLD},
+    {"RE_USTFLD", 0x400F, OFRE_USTFLD},
+    {"RE_SSTFLD", 0x4010, OFRE_SSTFLD},
+    {"RE_PUSH", 0x4011, OFRE_PUSH},
+    {"RE_PUSHSK", 0x4012, OFRE_PUSHSK},
+    {"RE_PUSHUK", 0x4013, OFRE_PUSHUK},
+    {"RE_PUSHPC", 0x4014, OFRE_PUSHPC},
+    {"RE_DUP", 0x4015, OFRE_DUP},
+    {"RE_XSTFLD", 0x4016, OFRE_XSTFLD},
+    {"RM_RANGE", 0x5000, OFRM_RANGE},
+    {"RM_OBJ", 0x5001, OFRM_OBJ},
+    {"RM_DWARF_LENGTH", 0x5002, OFRM_DWARF_LENGTH},
+    {nullptr, ~0u, 0},
+};
+
+// ZQ-COFF numbers of the ARM templates; the others have no ZQ-COFF form.
+const OF_RELOC_TYPE_ROW OF_ARM_ZQCOFF_RELOC_TYPE_DB[] = {
+    {"R_PCR23H", 0x16, OFR_ARM_THM_CALL},
+    {"R_PCR24W", 0x17, OFR_ARM_PC24},
+    {"R_T2_PCR24H", 0xA2, OFR_ARM_THM_JUMP24},
+    {"R_T2_PCR20H", 0xA3, OFR_ARM_THM_JUMP19},
+    {"R_T2_MOVW_ABS_NC", 0xA4, OFR_ARM_THM_MOVW_ABS_NC},
+    {"R_T2_MOVT_ABS", 0xA5, OFR_ARM_THM_MOVT_ABS},
+    {"R_PCR24W_CALL", 0xA6, OFR_ARM_CALL},
+    {"R_PCR24W_JUMP", 0xA7, OFR_ARM_JUMP24},
+    {"R_THM_PCR11", 0xA8, OFR_ARM_THM_JUMP11},
+    {"R_MOVW_ABS_NC", 0xA9, OFR_ARM_MOVW_ABS_NC},
+    {"R_MOVT_ABS", 0xAA, OFR_ARM_MOVT_ABS},
+    {nullptr, ~0u, 0},
+};
+
 // ---- the shared table ------------------------------------------------------
 
 void OF_RELOC_TYPE_TABLE::add_template(const OF_RELOC_TEMPLATE &t)

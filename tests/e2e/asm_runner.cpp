@@ -77,6 +77,7 @@ struct TestSpec {
   std::vector<SectionCheck> sections;
   std::vector<SymbolCheck> symbols;
   std::vector<std::string> absent_files;
+  std::vector<std::string> relocs;  // "section offset type symbol [addend]"
   bool expect_object = false;
 };
 
@@ -132,7 +133,7 @@ bool parse_header(std::string_view ln, Header &h) {
 
 // A directive comment of the test: "; KEY: value" (the colon is optional before "!").
 bool parse_key(const std::string &ln, std::string &key, std::string &value) {
-  static constexpr std::string_view keys[] = {"RUN", "EXIT", "EOF!", "SECTION", "SYMBOL", "NOFILE", "OBJECT"};
+  static constexpr std::string_view keys[] = {"RUN", "EXIT", "EOF!", "SECTION", "SYMBOL", "NOFILE", "OBJECT", "RELOC"};
   for (size_t semi = ln.find(';'); semi != std::string::npos; semi = ln.find(';', semi + 1)) {
     size_t p = semi + 1;
     while (p < ln.size() && std::isspace(static_cast<unsigned char>(ln[p]))) ++p;
@@ -208,6 +209,8 @@ TestSpec parse_spec(const fs::path &src) {
         std::string f;
         while (vs >> f) s.fields.push_back(f);
         t.symbols.push_back(s);
+      } else if (k == "RELOC") {
+        t.relocs.push_back(squeeze(v));
       } else if (k == "NOFILE") {
         t.absent_files.push_back(v);
       } else if (k == "OBJECT") {
@@ -384,7 +387,7 @@ TEST_P(AsmTest, Run) {
     EXPECT_FALSE(fs::exists(tmp / f)) << where << ": file " << f << " should not exist";
 
   fs::path obj = tmp / (src.stem().string() + ".obj");
-  bool need_object = t.expect_object || !t.sections.empty() || !t.symbols.empty();
+  bool need_object = t.expect_object || !t.sections.empty() || !t.symbols.empty() || !t.relocs.empty();
   if (need_object) {
     ASSERT_TRUE(fs::exists(obj)) << where << ": no object written" << context;
     ElfFile elf;
@@ -414,6 +417,14 @@ TEST_P(AsmTest, Run) {
       if (want != have)
         ADD_FAILURE_AT(where.c_str(), c.src_line) << "symbol " << c.name << "\n  want: " << want
                                                   << "\n  got:  " << have;
+    }
+    // Listed relocations are the object's, all of them, in order.
+    if (!t.relocs.empty()) {
+      std::vector<std::string> have = elf.relocations();
+      std::string want_text, have_text;
+      for (auto &r : t.relocs) want_text += "\n    " + r;
+      for (auto &r : have) have_text += "\n    " + r;
+      if (want_text != have_text) ADD_FAILURE() << where << ": relocations\n  want:" << want_text << "\n  got:" << have_text;
     }
     // Every object must read cleanly in both independent readers.
     for (std::string reader : {"arm-none-eabi-readelf -a -W", "llvm-readelf --all"}) {

@@ -74,6 +74,46 @@ class ElfFile {
     return false;
   }
 
+  // Relocation entries of every REL and RELA section, in file order, as
+  // "section offset type symbol [addend]" with the offset in 8 hex digits,
+  // the type by its ABI name, and a section symbol by its section's name.
+  std::vector<std::string> relocations() const {
+    std::vector<std::string> out;
+    for (auto &rs : sections_) {
+      if (rs.type != 9 && rs.type != 4) continue;
+      const bool rela = rs.type == 4;
+      const unsigned step = rela ? 12 : 8;
+      if (rs.link >= sections_.size() || rs.info >= sections_.size()) continue;
+      const ElfSection &symtab = sections_[rs.link];
+      const ElfSection &strtab = sections_.at(symtab.link);
+      for (uint32_t off = rs.offset; off + step <= rs.offset + rs.size; off += step) {
+        const uint32_t info = u32(off + 4), sym = info >> 8;
+        const uint32_t entry = symtab.offset + sym * 16;
+        std::string name = str(strtab.offset + u32(entry));
+        if ((b(entry + 12) & 15) == 3 && u16(entry + 14) < sections_.size()) name = sections_[u16(entry + 14)].name;
+        char buf[24];
+        std::snprintf(buf, sizeof buf, "%08x", u32(off));
+        std::string row = sections_[rs.info].name + " " + buf + " " + reloc_name(info & 0xff) + " " + name;
+        if (rela) row += " " + std::to_string(static_cast<int32_t>(u32(off + 8)));
+        out.push_back(row);
+      }
+    }
+    return out;
+  }
+
+  static std::string reloc_name(uint32_t type) {
+    static const struct { uint32_t n; const char *name; } names[] = {
+        {0, "R_ARM_NONE"},         {1, "R_ARM_PC24"},        {2, "R_ARM_ABS32"},        {3, "R_ARM_REL32"},
+        {5, "R_ARM_ABS16"},        {10, "R_ARM_THM_CALL"},   {28, "R_ARM_CALL"},        {29, "R_ARM_JUMP24"},
+        {30, "R_ARM_THM_JUMP24"},  {38, "R_ARM_TARGET1"},    {41, "R_ARM_TARGET2"},     {42, "R_ARM_PREL31"},
+        {43, "R_ARM_MOVW_ABS_NC"}, {44, "R_ARM_MOVT_ABS"},   {47, "R_ARM_THM_MOVW_ABS_NC"},
+        {48, "R_ARM_THM_MOVT_ABS"},
+    };
+    for (auto &r : names)
+      if (r.n == type) return r.name;
+    return std::to_string(type);
+  }
+
   const std::vector<ElfSection> &sections() const { return sections_; }
 
  private:

@@ -3,21 +3,12 @@
 // bodies are in pending_glue.cpp and give way when their subsystem lands.
 #include <cstdint>
 
+#include "expr/reloc.h"
 #include "target/arm/arch.h"
 
 struct IOR_STRUCT;
 struct value_record;
 namespace OFE { class OF_RELOC_TYPE; }
-
-// ---- Relocation emission ---------------------------------------------------------
-
-// Records one relocation for `value` at the current position of the current
-// section. `ior` may be null; `pc` is the place's address for PC-relative
-// COFF types (0 for data); `ior_offset` is the bit offset in the record for
-// the listing mark; `field_offset` is the field's bit position. On return
-// v_val holds what goes into the field.
-void RELOC_emit(IOR_STRUCT *ior, value_record *value, uint32_t pc, const OFE::OF_RELOC_TYPE *type,
-                short field_size, unsigned ior_offset, unsigned field_offset);
 
 // ---- Target state ------------------------------------------------------------------
 

@@ -10,6 +10,7 @@
 #include "expr/reloc.h"
 #include "expr/symbols.h"
 #include "ofe/object_file.h"
+#include "ofe/of_machine.h"
 #include "ofe/of_reloc_type.h"
 #include "source/lexer.h"
 #include "target/arm/glue_pending.h"
@@ -107,3 +108,12 @@ bool TRG_reloc_requires_sym_rel(value_record *value) { return value && value->v_
 bool TRG_reloc_addend_is_symrel_offset(const OFE::OF_RELOC_TYPE *) { return true; }
 
 bool TRG_requires_scaling(const OFE::OF_RELOC_TYPE *) { return true; }
+
+const OFE::OF_RELOC_TYPE *ARM_reloc_type(uint32_t generic) {
+  return ofile ? ofile->reloc_types().by_template_id(generic) : nullptr;
+}
+
+void adjust_thumb_symbol_values() {
+  if (auto *arm = ofile ? dynamic_cast<OFE::ARM_MACHINE_DB *>(ofile->machine_db()) : nullptr)
+    arm->adjust_thumb_symbol_values();
+}

@@ -3,26 +3,6 @@
 #include "target/arm/glue_pending.h"
 
 #include "driver/diag.h"
-#include "expr/symbols.h"
-#include "expr/value.h"
-#include "ofe/of_reloc_type.h"
-#include "source/lexer.h"
-
-// The relocations step makes it real. Until then a value that needs the
-// linker can't be written correctly, so it is refused with its symbol's name.
-void RELOC_emit(IOR_STRUCT *, value_record *value, uint32_t, const OFE::OF_RELOC_TYPE *, short,
-                unsigned, unsigned) {
-  const char *name = value && value->v_symbol && !value->v_rel ? value->v_symbol->sym_name.c_str() : "expression";
-  error(curline, "E0001", "Relocation for %s is not supported yet", name);
-}
-
-// The relocations step makes it real with the machine database. Until then
-// every type is "there", so a relocated operand reaches RELOC_emit above and
-// is refused by name.
-const OFE::OF_RELOC_TYPE *ARM_reloc_type(uint32_t generic) {
-  static const OFE::OF_RELOC_TYPE pending("pending", generic, generic, nullptr);
-  return &pending;
-}
 
 // The Thumb-2 encoder runs trials; no trial exists before it.
 uint8_t suppress_output = 0;
@@ -32,10 +12,6 @@ int64_t num_thumb2_keep = 0;
 int64_t num_thumb2_conv = 0;
 int64_t num_orig_thumb = 0;
 int64_t num_2opnd_conv = 0;
-
-// The relocations step makes it real with the mapping-symbol queries. No
-// Thumb code is assembled before the Thumb encoders, so no value changes.
-void adjust_thumb_symbol_values() {}
 
 // The COFF writer makes these real. No ZQ-COFF object can be made until
 // then, so they are not reached; if they were, say so.

@@ -6,5 +6,4 @@
         .cstring 1, "a"         ;! E0004 Invalid string
         .cstring "b\"           ;! E0000 Invalid .cstring format
         .byte   ext             ;! E0004 Invalid data size for relocation
-        .word   ext             ;! E0001 Relocation for ext is not supported yet
 ; EOF! E0300
