@@ -160,7 +160,9 @@ void syntax_error(linebuf *line, const char *id) {
   if (line && line->text && curtk && curtk->column >= 0 &&
       static_cast<size_t>(curtk->column) < std::strlen(line->text))
     c = line->text[curtk->column];
-  Message m{SEV_ERROR, line, id, std::string("Syntax Error; unexpected text beginning with '") + c + "'", true};
+  char text[64];
+  std::snprintf(text, sizeof text, "Syntax Error; unexpected text beginning with '%c'", c);
+  Message m{SEV_ERROR, line, id, text, true};
   emit(m, !pass1);
 }
 
