@@ -8,6 +8,7 @@
 #include "driver/diag.h"
 #include "driver/driver.h"
 #include "driver/options.h"
+#include "source/lexer.h"
 #include "target/arm/arch.h"
 #include "target/arm/encode.h"
 #include "target/arm/encoders.h"
@@ -155,7 +156,12 @@ void TRG_encode(instruct *ir) {
   if (pass1) {
     TRG_encode_pass1(ir);
   } else {
+    // The parser has read ahead to the next line; whatever the encoding
+    // reports belongs to the statement's own line.
+    linebuf *const reading = curline;
+    curline = ir->line;
     encode_krv616_ins(ir);
+    curline = reading;
     SCN_dump_field();
     IOR_dump(&ir->ior, ir, 1);
     SCN_dump_field();

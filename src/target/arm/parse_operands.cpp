@@ -267,7 +267,7 @@ operand *expression() {
   }
   if (v->v_type == VT_UNDEFSYM) {
     const symbol_record *sym = v->v_symbol;
-    if (pass2 && !(sym && SYM_is_global(sym))) error(here(), "E0001", "Undefined symbol");
+    if (pass2 && !v->v_rel && !(sym && SYM_is_global(sym))) error(here(), "E0001", "Undefined symbol");
     return operand_from(v, OP_SYMBOL);
   }
   if (is_int_type(v->v_type) || is_relocatable(v)) return operand_from(v, OP_SYMBOL);
