@@ -84,6 +84,8 @@ struct RunCase {
   std::string build;
 };
 
+void PrintTo(const RunCase &c, std::ostream *os) { *os << c.dir.filename().string() << " " << c.build; }
+
 std::vector<RunCase> run_cases() {
   std::vector<RunCase> out;
   for (const fs::path &d : program_dirs())

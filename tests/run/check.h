@@ -11,15 +11,15 @@ static int check_failures;
 static int check_count;
 enum { CHECK_SHOWN = 20 }; /* mismatches printed; the rest are only counted */
 
-static int check_show(void) { return ++check_failures <= CHECK_SHOWN; }
+static inline int check_show(void) { return ++check_failures <= CHECK_SHOWN; }
 
-static void check32(const char *what, uint32_t got, uint32_t want) {
+static inline void check32(const char *what, uint32_t got, uint32_t want) {
   ++check_count;
   if (got == want || !check_show()) return;
   printf("MISMATCH %s: got 0x%08x, want 0x%08x\n", what, (unsigned)got, (unsigned)want);
 }
 
-static void check64(const char *what, uint64_t got, uint64_t want) {
+static inline void check64(const char *what, uint64_t got, uint64_t want) {
   ++check_count;
   if (got == want || !check_show()) return;
   printf("MISMATCH %s: got 0x%016llx, want 0x%016llx\n", what, (unsigned long long)got,
@@ -27,7 +27,7 @@ static void check64(const char *what, uint64_t got, uint64_t want) {
 }
 
 /* Compares two byte ranges, naming the first byte that differs. */
-static void check_bytes(const char *what, const void *got, const void *want, unsigned n) {
+static inline void check_bytes(const char *what, const void *got, const void *want, unsigned n) {
   const unsigned char *g = (const unsigned char *)got, *w = (const unsigned char *)want;
   ++check_count;
   for (unsigned i = 0; i < n; ++i)
@@ -38,7 +38,7 @@ static void check_bytes(const char *what, const void *got, const void *want, uns
 }
 
 /* The end of main: a run that compared nothing is a failure too. */
-static int check_done(const char *program) {
+static inline int check_done(const char *program) {
   if (check_count == 0) {
     printf("%s: nothing was compared\n", program);
     return 1;
