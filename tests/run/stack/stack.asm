@@ -13,6 +13,7 @@
         .global stk_copy8
         .global stk_ldm_modes
         .global stk_stm_modes
+        .global stk_call_kept
 
 ; a + 2b + 3c + 4d + 5e + 6f + 7g + 8h; e to h come on the stack
 stk_sum8:
@@ -120,3 +121,47 @@ stk_stm_modes:
         STMFD   R12!, {R2}                      ; p[11] = v + 1, base p + 11
         SUB     R0, R12, R0
         BX      LR
+
+; stk_call_kept(fn, a, out): calls fn(a) through a register with R4-R11 set
+; to known values, stores the result to out[0], and returns a bit for each of
+; R4-R11 that fn did not give back (bit 8 for SP)
+stk_call_kept:
+        STMFD   SP!, {R4-R11, LR}
+        MOV     R12, R0
+        MOV     R0, R1
+        MOV     R4, #0x44
+        MVN     R5, #0x55
+        MOV     R6, #0x66000000
+        MOV     R7, #0x770
+        MVN     R8, #0x88000
+        MOV     R9, #0x99
+        MOV     R10, #0xAA00
+        MOV     R11, #0xBB0000
+        MOV     R3, SP
+        STMFD   SP!, {R2, R3}
+        MOV     LR, PC
+        BX      R12
+        LDMFD   SP!, {R2, R3}
+        SUB     R3, SP, R3
+        STR     R0, [R2]
+        MOV     R0, #0
+        TEQ     R4, #0x44
+        ORRNE   R0, R0, #1 << 0
+        CMN     R5, #0x56
+        ORRNE   R0, R0, #1 << 1
+        TEQ     R6, #0x66000000
+        ORRNE   R0, R0, #1 << 2
+        TEQ     R7, #0x770
+        ORRNE   R0, R0, #1 << 3
+        MVN     R12, #0x88000
+        TEQ     R8, R12
+        ORRNE   R0, R0, #1 << 4
+        TEQ     R9, #0x99
+        ORRNE   R0, R0, #1 << 5
+        TEQ     R10, #0xAA00
+        ORRNE   R0, R0, #1 << 6
+        TEQ     R11, #0xBB0000
+        ORRNE   R0, R0, #1 << 7
+        TEQ     R3, #0
+        ORRNE   R0, R0, #1 << 8
+        LDMFD   SP!, {R4-R11, PC}
