@@ -103,9 +103,10 @@ std::string capped(std::string s) {
 }
 
 std::string first_lines(const std::string &s, size_t n) {
-  size_t end = 0;
-  for (size_t k = 0; k < n && end != std::string::npos; ++k) end = s.find('\n', end ? end + 1 : 0);
-  return end == std::string::npos ? s : s.substr(0, end) + "\n  ...";
+  size_t end = std::string::npos;
+  for (size_t k = 0, from = 0; k < n; ++k, from = end + 1)
+    if ((end = s.find('\n', from)) == std::string::npos) return s;
+  return s.substr(0, end) + "\n  ...";
 }
 
 // The tools are looked for once; an absent one fails every program unless
