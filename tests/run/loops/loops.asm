@@ -1,5 +1,4 @@
 ; Loops with backward branches to labels, forward exits, and nested loops.
-; XFAIL: branches to labels need relocations
 ; BUILD: -v4
 ; BUILD: -v5e
 ; BUILD: -v6
