@@ -12,13 +12,13 @@
 #include "driver/pipeline.h"
 #include "expr/expr.h"
 #include "expr/int128.h"
+#include "expr/reloc.h"
 #include "expr/symbols.h"
 #include "ofe/object_file.h"
 #include "ofe/of_machine.h"
 #include "ofe/of_reloc_type.h"
 #include "ofe/of_section.h"
 #include "source/lexer.h"
-#include "target/arm/glue_pending.h"
 
 namespace {
 
