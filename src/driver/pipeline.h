@@ -99,3 +99,7 @@ extern uint32_t isize_idx;   // next value to read in pass 2
 // Pass 1 records the value's integer; pass 2 compares it with the recorded one
 // and, if it changed, reports it and puts the pass-1 value back.
 void VLI_check(value_record *value);
+// A label-dependent length: pass 1 pushes it, pass 2 pops it back in the same
+// statement order.
+void VLI_push(uint32_t length);
+uint32_t VLI_pop();

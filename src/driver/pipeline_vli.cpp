@@ -23,3 +23,12 @@ void VLI_check(value_record *value) {
   error(curline, "E0200", "Value of expression has changed due to jump expansion");
   XI_itox(then, value->v_val.b);
 }
+
+void VLI_push(uint32_t length) { isize_list.push_back(length); }
+
+uint32_t VLI_pop() {
+  // A pass 2 that outruns pass 1 has taken another path; the labels behind
+  // the statement report it.
+  if (isize_idx >= isize_list.size()) return 2;
+  return isize_list[isize_idx++];
+}

@@ -45,15 +45,23 @@ void ENC_put(instruct *ir, unsigned bit, unsigned width, uint32_t value) {
   IOR_write(&ir->ior, width, bit, value);
 }
 
-void ENC_set(instruct *ir, uint32_t bits) {
-  const uint32_t word = word_of(ir->ior) | bits;
-  IOR_write(&ir->ior, 32, 0, word);
+namespace {
+
+// A 16-bit Thumb record stays 16 bits: a whole-word write would make it 32.
+void write_word(instruct *ir, uint32_t word) {
+  const unsigned length = ir->ior.ior_length == 16 ? 16 : 32;
+  if (length == 16 && (word >> 16)) {
+    error_internal(0, ir->line, "Bits 0x%X outside a 16-bit instruction", word >> 16);
+    word &= 0xFFFF;
+  }
+  IOR_write(&ir->ior, length, 0, word);
 }
 
-void ENC_clear(instruct *ir, uint32_t bits) {
-  const uint32_t word = word_of(ir->ior) & ~bits;
-  IOR_write(&ir->ior, 32, 0, word);
-}
+}  // namespace
+
+void ENC_set(instruct *ir, uint32_t bits) { write_word(ir, word_of(ir->ior) | bits); }
+
+void ENC_clear(instruct *ir, uint32_t bits) { write_word(ir, word_of(ir->ior) & ~bits); }
 
 uint32_t ENC_word(const instruct *ir) { return word_of(ir->ior); }
 

@@ -72,9 +72,52 @@ void encode_sg(instruct *ir);          // 148
 void encode_tt(instruct *ir);          // 149
 void encode_udf(instruct *ir);         // 227
 
-// Families of later steps: VFP (19 to 23, 49, 50), Thumb-16 (101 to 122),
-// Thumb-2 (123 to 142), NEON and the rest.
+// Thumb 16-bit (enc_t16_*.cpp).
+void encode_t_add(instruct *ir);       // 101
+void encode_t_alu(instruct *ir);       // 102
+void encode_t_cmp(instruct *ir);       // 103
+void encode_t_mov(instruct *ir);       // 104
+void encode_t_b(instruct *ir);         // 105, 118
+void encode_t_lsb(instruct *ir);       // 106
+void encode_t_lsh(instruct *ir);       // 107
+void encode_t_lss(instruct *ir);       // 108
+void encode_t_lsw(instruct *ir);       // 109
+void encode_t_mls(instruct *ir);       // 110
+void encode_t_swi(instruct *ir);       // 111
+void encode_t_sub(instruct *ir);       // 112
+void encode_t_nop(instruct *ir);       // 113
+void encode_t_br(instruct *ir);        // 114, 116, 117
+void encode_t_adr(instruct *ir);       // 115
+void encode_t_mext(instruct *ir);      // 119
+void encode_t_cpy(instruct *ir);       // 120
+void encode_t_cps(instruct *ir);       // 121
+void encode_t_dp(instruct *ir);        // 122
+
+// Thumb-2 data processing and multiplies (enc_t2_dp*.cpp).
+void encode_t2_dp(instruct *ir);       // 123
+void encode_t2_dpw(instruct *ir);      // 124
+void encode_t2_mov_imm(instruct *ir);  // 126
+void encode_t2_dp_reg(instruct *ir);   // 127
+void encode_t2_shift(instruct *ir);    // 128
+void encode_t2_extend(instruct *ir);   // 129
+void encode_t2_mul(instruct *ir);      // 134
+void encode_t2_div(instruct *ir);      // 138
+void encode_t2_rev(instruct *ir);      // 139
+
+// Thumb-2 loads, stores and system (enc_t2_ldst*.cpp).
+void encode_t2_ldr_str(instruct *ir);  // 130
+void encode_t2_ldm(instruct *ir);      // 131
+void encode_t2_table(instruct *ir);    // 140
+void encode_t2_prefetch(instruct *ir); // 142
+void encode_t2_cps(instruct *ir);      // 217
+
+// Thumb-2 branches, IT and ADR (enc_t2_branch*.cpp).
+void encode_t2_branch(instruct *ir);   // 132, 135
+void encode_t2_adr(instruct *ir);      // 133
+void encode_t2_it(instruct *ir);       // 136
+void encode_t2_czb(instruct *ir);      // 137
+void encode_t2_bxj(instruct *ir);      // 141
+
+// Families of later steps: VFP (19 to 23, 49, 50), NEON and the rest.
 void encode_vfp(instruct *ir);
-void encode_thumb16(instruct *ir);
-void encode_thumb2(instruct *ir);
 void encode_simd_ins(instruct *ir);
