@@ -56,6 +56,14 @@ bool is_illegal_reg(instruct *ir, const operand *op) {
   return true;
 }
 
+// An immediate operand is an OP_ICON; the encoding of anything else would
+// only add messages about the other operands.
+bool is_illegal_imm(instruct *ir, const operand *op) {
+  if (op->kind == OP_ICON) return false;
+  error(ir->line, "E0004", "Illegal operand");
+  return true;
+}
+
 // The high-register forms: Rd's low bits at 0 and high bit at 7, Rs's at 3 and 6.
 void put_hi_pair(instruct *ir, uint32_t base, const operand *rd, const operand *rs) {
   ENC_set(ir, base);
@@ -137,7 +145,7 @@ void encode_t_add(instruct *ir) {
       put_hi_pair(ir, ADD_HI, rd, rs);
     } else if (rd->op_reg == REG_SP) {
       add_sp_immediate(ir, rs);
-    } else {
+    } else if (!is_illegal_imm(ir, rs)) {
       ENC_set(ir, ADD_IMM8);
       if (T16_low_reg(ir, rd, RD_HI)) ENC_put(ir, 8, 3, rd->op_reg);
       T16_unsigned_field(ir, rs, 0, 8, true);
@@ -161,6 +169,7 @@ void encode_t_sub(instruct *ir) {
   operand *x = ia_op(ir, 2);
   drop_modifiers(ir);
   if (!x) {
+    if (is_illegal_imm(ir, rs)) return;
     ENC_set(ir, SUB_IMM8);
     if (T16_low_reg(ir, rd, RD_HI)) ENC_put(ir, 8, 3, rd->op_reg);
     T16_unsigned_field(ir, rs, 0, 8, true);
@@ -201,6 +210,7 @@ void encode_t_cmp(instruct *ir) {
     }
     return;
   }
+  if (is_illegal_imm(ir, rs)) return;
   ENC_set(ir, CMP_IMM8);
   if (T16_low_reg(ir, rd, RD_HI)) ENC_put(ir, 8, 3, rd->op_reg);
   T16_unsigned_field(ir, rs, 0, 8);
@@ -225,6 +235,7 @@ void encode_t_mov(instruct *ir) {
     put_hi_pair(ir, MOV_HI, rd, rs);
     return;
   }
+  if (is_illegal_imm(ir, rs)) return;
   ENC_set(ir, MOV_IMM8);
   if (T16_low_reg(ir, rd, RD_HI)) ENC_put(ir, 8, 3, rd->op_reg);
   T16_unsigned_field(ir, rs, 0, 8);
