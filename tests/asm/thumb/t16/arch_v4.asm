@@ -1,5 +1,5 @@
 ; What plain Thumb refuses below v6, and the forms that differ with the
-; architecture: two low registers in the high-register ADD, MUL with Rd = Rs.
+; architecture: MUL with Rd = Rs.
 ; RUN: %s %o -v4
         .thumb
         rev     r0, r1                  ;! E0002 Instruction is only available in V6 and higher
@@ -7,5 +7,3 @@
         cpy     r0, r1                  ;! E0002 Instruction is only available in V6 and higher
         bkpt    #1                      ;! E0002 Instruction is only available in V5 and higher
         muls    r2, r2                  ;! W0000 Destination register operand Rd should not be the same as operand Rs
-        .state16
-        add     r0, r1                  ;! E0004 One of register Rd or Rs must be a hi register

@@ -5,7 +5,7 @@
         revsh   r0, r9                  ;! E0004 Register Rm cannot be a hi register
         sxth    r8, r1                  ;! E0004 Destination register Rd must be a low numbered register
         uxtb    r0, r9                  ;! E0004 Registerd Rm must be a low numbered register
-        uxth    r0, r1, ror #8          ;! E0003 Unexpected trailing operand(s)
+        uxth    r0, r1, ror #8          ;! E0004 Illegal operand
         cpsie   aif
         cpsid   ix                      ;! E0004 Illegal flag specified: x
         cpsie   aifa                    ;! E0003 Unexpected trailing operand(s).

@@ -19,7 +19,7 @@
         bleq    here                    ;! W0004 Invalid instruction modifier(s) ignored
         blx     r0!                     ;! W0000 Operand modifiers ignored
         br      ext                     ;! E0001 Address must be defined in the current section
-        cret    here                    ;! E0001 Address must be defined in the current section
+        cret    other                   ;! E0001 Address must be defined in the current section
 here:   nop
         .data
 other:  .word   0

@@ -2,7 +2,7 @@
 ; Thumb on v4.
 ; RUN: %s %o -v4
         .thumb
-        ldr     r0, [r8, #4]            ;! E0004 Base register Rb cannot be a hi register
+back:   ldr     r0, [r8, #4]            ;! E0004 Base register Rb cannot be a hi register
         ldr     r0, [r1, r8]            ;! E0004 Offset register Ro cannot be a hi register
         ldr     r8, [r1, r2]            ;! E0004 Destination register Rd cannot be a hi register
         ldr     r0, [r1, r2, lsl #2]    ;! W0000 Shift amount ignored
@@ -33,7 +33,7 @@
         adr     r8, label               ;! E0004 Destination register Rd must be a lo register
         adr     r0, back                ;! E0200 Offset out of range, must be [0,1023]
         adr     r0, r1                  ;! E0004 Illegal operand
-back:   nop
+        nop
         .align  4
 label:  .word   0
         .space  1024

@@ -12,5 +12,5 @@
         beq.n   label
         b.n     label
         bx.n    lr
-label:  nop
-; SECTION: .text: 88 18 01 20 40 44 48 68 01 49 01 b5 00 bf 01 d0 00 e0 70 47 00 bf
+label:  nop.n
+; SECTION: .text: 88 18 01 20 40 44 48 68 02 49 01 b5 00 bf 01 d0 00 e0 70 47 00 bf

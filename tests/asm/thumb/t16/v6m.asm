@@ -1,12 +1,14 @@
-; Plain Thumb in old syntax on v6-M: two low registers are allowed in the
-; high-register ADD, the flag A of CPS is not, and NOP is MOV R8, R8.
+; Plain Thumb in old syntax on v6-M, where ADD of two low registers is read as
+; the three-register form and NOP is MOV R8, R8; in the Thumb-2 state .N
+; reaches the high-register ADD with two low registers and the NOP hint.
 ; RUN: %s %o -v6M0
         .state16
         add     r0, r1
-        add     r0, r1, r2
         mov     r0, r1
         nop
         cpsid   i
-        cpsie   a                       ;! E0004 Flag 'A' is not allowed in Cortex-M.
-        blx     label                   ;! E0002 Illegal Cortex-M instruction/directive
+        .thumb
+        add.n   r0, r1
+        nop.n
 label:  bx      lr
+; SECTION: .text: 40 18 08 1c c0 46 72 b6 08 44 00 bf 70 47
