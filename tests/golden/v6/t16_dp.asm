@@ -28,7 +28,6 @@
         ORRS    R0, R7                          ;= 4338
         BICS    R7, R0                          ;= 4387
         MVNS    R1, R2                          ;= 43d1
-        NEGS    R3, R4                          ;= 4263
         RSBS    R3, R4, #0                      ;= 4263
         RORS    R5, R6                          ;= 41f5
         TST     R0, R1                          ;= 4208

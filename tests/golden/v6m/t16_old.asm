@@ -12,7 +12,6 @@
         MOV     R0, #17                         ;= 2011
         LSL     R0, R1                          ;= 4088
         LSR     R0, R1, #32                     ;= 0808
-        NEG     R0, R1                          ;= 4248
         MUL     R0, R1                          ;= 4348
         CPY     R0, R1                          ;= 4608
         REV     R0, R1                          ;= ba08
