@@ -1,6 +1,7 @@
-; Plain Thumb in old syntax on v6-M, where ADD of two low registers is read as
-; the three-register form, NEG is RSBS Rd, Rs, #0 and NOP is MOV R8, R8; in the Thumb-2 state .N
-; reaches the high-register ADD with two low registers and the NOP hint.
+; Plain Thumb in old syntax on v6-M, where ADD of two low registers is read
+; as the three-register form, NEG is RSBS Rd, Rs, #0 and NOP is MOV R8, R8;
+; in the Thumb-2 state .N reaches the high-register ADD with two low
+; registers and the NOP hint.
 ; RUN: %s %o -v6M0
         .state16
         add     r0, r1
