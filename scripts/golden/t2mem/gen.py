@@ -7,7 +7,7 @@ reference objects (rejected lines are replaced by a 4-byte filler and
 dropped). A line is written when llvm-mc and GNU as agree on it; the others
 go to review.txt beside this script.
 
-    scripts/golden/t2mem/gen.py [--out DIR]
+    scripts/golden/t2mem/gen.py [--out DIR] [--review FILE]
 """
 import argparse
 import os
@@ -106,6 +106,7 @@ def generate(arch, family, entries, review):
 def main():
     ap = argparse.ArgumentParser()
     ap.add_argument('--out', default=os.path.join(ROOT, 'tests', 'golden'))
+    ap.add_argument('--review', default=os.path.join(HERE, 'review.txt'))
     args = ap.parse_args()
     review = []
     for arch in ARCHES:
@@ -121,7 +122,7 @@ def main():
                 f.write('; RUN: %%s %%o %s\n' % ARCHES[arch][0])
                 f.write('        .thumb\n')
                 f.write('\n'.join(body) + '\n')
-    with open(os.path.join(HERE, 'review.txt'), 'w') as f:
+    with open(args.review, 'w') as f:
         f.write('\n'.join(review) + ('\n' if review else ''))
 
 
