@@ -80,7 +80,8 @@ def ldm(arch):
             'STMFD.W R1!, {R9}']
     note = 'as LDR or STR'
     return same(out) + [(s, s, note) for s in ['LDMIA.W R0, {R5}', 'STMIA.W R2!, {R3}', 'LDMDB.W R6!, {R3}',
-                                               'STM.W R8!, {R11}']]
+                                               'STM.W R8!, {R11}', 'STMDB.W R0, {R1}', 'LDMDB.W R0, {R1}',
+                                               'LDMEA.W R3, {R2}', 'STMFD.W R4, {LR}']]
 
 
 def table(arch):

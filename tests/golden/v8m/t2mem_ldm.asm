@@ -49,3 +49,7 @@
         STMIA.W R2!, {R3}                       ;= f842 3b04  ; note: as LDR or STR
         LDMDB.W R6!, {R3}                       ;= f856 3d04  ; note: as LDR or STR
         STM.W R8!, {R11}                        ;= f848 bb04  ; note: as LDR or STR
+        STMDB.W R0, {R1}                        ;= f840 1c04  ; note: as LDR or STR
+        LDMDB.W R0, {R1}                        ;= f850 1c04  ; note: as LDR or STR
+        LDMEA.W R3, {R2}                        ;= f853 2c04  ; note: as LDR or STR
+        STMFD.W R4, {LR}                        ;= f844 ec04  ; note: as LDR or STR
