@@ -126,10 +126,8 @@ void put_single_address(instruct *ir, operand *addr, bool t_form) {
       put_imm_address(ir, addr, t_form);
       return;
     case OP_INDPRES:
-      if (t_form || !plain_register_offset(ir, addr)) {
-        if (t_form) error(ir->line, "E0004", "Invalid addressing mode");
-        return;
-      }
+      if (t_form) break;
+      if (!plain_register_offset(ir, addr)) return;
       error_pc_op(ir, addr->op_reg);
       ENC_put(ir, 16, 4, addr->op_reg);
       put_scaled_index(ir, addr, "Illegal shift amount");
