@@ -79,3 +79,5 @@ const mnemonic_row *OPR_find_row(const char *name) {
     if (std::strcmp(row->name, name) == 0) return row;
   return nullptr;
 }
+
+bool OPR_row_is(const instruct *ir, const char *name) { return std::strcmp(ia_row(ir)->name, name) == 0; }

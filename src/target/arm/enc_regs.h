@@ -63,3 +63,10 @@ void OPR_shape_fault();
 // The mnemonic row of the name (upper case), found once per name by the caller.
 const mnemonic_row *OPR_find_row(const char *name);
 
+
+// The statement's mnemonic row has this name (upper case).
+bool OPR_row_is(const instruct *ir, const char *name);
+
+// The rotation of an extend's source (ROR #0, 8, 16 or 24) as two bits at
+// `bit`, with its messages.
+void OPR_put_rotation(instruct *ir, const operand *op, unsigned bit);
