@@ -4,6 +4,7 @@
 #include "target/arm/enc_t2_dp.h"
 
 #include "driver/diag.h"
+#include "expr/value.h"
 #include "target/arm/checks.h"
 #include "target/arm/classes.h"
 #include "target/arm/enc_regs.h"
@@ -78,6 +79,12 @@ void encode_dpw_fields(instruct *ir) {
   const operand *imm = ia_op(ir, 2);
   if (imm->kind != OP_ICON && imm->kind != OP_SYMBOL) {
     error(ir->line, "E0004", "The third operand must be immediate or symbol");
+    return;
+  }
+  // No relocation fills this field: a label's address is not a constant.
+  // An undefined symbol has had its message.
+  if (imm->kind == OP_SYMBOL && is_relocatable(imm->value)) {
+    if (num_errors == ir->ia_errors) error(ir->line, "E0004", "Expression must evaluate to an absolute constant");
     return;
   }
   const int64_t value = ENC_value(imm);
