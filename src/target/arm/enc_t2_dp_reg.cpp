@@ -126,7 +126,7 @@ void encode_t2_dp_reg(instruct *ir) {
     ENC_put(ir, 16, 4, rn->op_reg);
   }
   if (!put_operand2(ir, src)) return;
-  if (ia_class(ir) == &t2_dp_9) check_mov_sp(ir, rd, src);
+  if (OPR_row_is(ir, "MOV")) check_mov_sp(ir, rd, src);
   set_flags_bit(ir);
 }
 
