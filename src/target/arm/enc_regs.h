@@ -52,6 +52,10 @@ bool OPR_encode(instruct *ir, const reg_operand *ops, unsigned count, unsigned r
 // "R15 is an invalid operand", once, when any of regs[] is 15.
 bool OPR_reject_pc(instruct *ir, const unsigned regs[], unsigned count);
 
+// error_pc_op, once, when any of regs[] is 15 (an operand that was no
+// register reads as 0).
+void OPR_error_pc_once(instruct *ir, const unsigned regs[], unsigned count);
+
 // The register of a register-specified shift (Rm, LSL Rs): the parser leaves
 // the shift register's number as the operand's value.
 unsigned OPR_shift_reg(const operand *op);

@@ -81,12 +81,7 @@ void check_mov_sp(instruct *ir, const operand *rd, const operand *src) {
 void put_regs_no_pc(instruct *ir, const reg_operand *ops, unsigned count) {
   unsigned regs[MAX_REG_OPERANDS] = {};
   OPR_encode(ir, ops, count, regs);
-  for (unsigned i = 0; i < count; ++i) {
-    if (OPR_is_reg(ia_op(ir, static_cast<int>(i))) && regs[i] == REG_PC) {
-      error_pc_op(ir, REG_PC);
-      return;
-    }
-  }
+  OPR_error_pc_once(ir, regs, count);
 }
 
 // Extends that Cortex-M3 has.
