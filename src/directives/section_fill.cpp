@@ -174,6 +174,19 @@ void SCN_insert_field(unsigned bits, const INT128 &value, instruct *ir, int mapp
   insert_bits(bits, v.is_zero(), [&v](unsigned lo, unsigned n) { return bits_of(v, lo, n); }, ir, swap);
 }
 
+bool SCN_insert_word_le(uint32_t word, int mapping_kind) {
+  // What four SCN_insert_byte calls do when the accumulator is empty or full
+  // and the section little-endian; anything else goes byte by byte.
+  if (!curseg || curseg->scn_big_endian || (curseg->scn_field_bits != 0 && curseg->scn_field_bits != 32) ||
+      !SCN_room(32))
+    return false;
+  TRG_add_mapping_sym(mapping_kind);
+  if (curseg->scn_field_bits == 32) write_out_accumulator();
+  curseg->scn_field_word |= word;
+  curseg->scn_field_bits = 32;
+  return true;
+}
+
 void SCN_insert_byte(unsigned byte, int mapping_kind) {
   SCN_insert_field(8, xi_from_uint(byte & 0xFF), nullptr, mapping_kind, false);
 }
