@@ -67,6 +67,11 @@ void SCN_align(unsigned long bits, unsigned long fill) {
   if (!curseg || curseg->scn_object->unit_size() != 8) return;
   // Byte alignment on a byte boundary is the common case of every data byte.
   if (bits == 8 && pass2 && curseg->scn_field_bits % 8 == 0) return;
+  // So is an instruction's alignment on an aligned address in a section
+  // aligned at least as much, unless pass 1 records alignments for jumps.
+  if ((bits == 16 || bits == 32) && (uint64_t{curpc} * 8 + curseg->scn_field_bits) % bits == 0 &&
+      curseg->scn_object->align() >= bits / 8 && !(pass1 && curseg->scn_jumps.head))
+    return;
   SCN_core_align(bits, fill, SCN_trg_align);
 }
 

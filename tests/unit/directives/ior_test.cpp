@@ -9,6 +9,7 @@
 #include "directives/ior.h"
 #include "driver/driver.h"
 #include "driver/options.h"
+#include "ofe/of_section.h"
 
 namespace {
 
@@ -74,5 +75,24 @@ TEST_F(SectionsTest, RecordBytesGoOutAsSingleBytesWould) {
       }
       EXPECT_EQ(expected.size(), before + 6u);
     }
+  }
+}
+
+TEST_F(SectionsTest, InstructionAlignmentOnAnAlignedAddressStillAlignsTheSection) {
+  for (bool second_pass : {false, true}) {
+    TearDown();
+    SetUp();
+    if (second_pass) start_pass2();
+    else start_pass1();
+    SCN_queue(SCN_KIND_SECT, ".code");
+    EXPECT_LE(curseg->scn_object->align(), 1u);
+    SCN_align(16, 0);  // at 0: no gap, but the section becomes 2-aligned
+    EXPECT_EQ(curseg->scn_object->align(), 2u);
+    SCN_insert_field(16, xi_from_int(0x1234), nullptr, 0, false);
+    SCN_align(32, 0);  // at 2: a gap of two bytes
+    EXPECT_EQ(curseg->scn_object->align(), 4u);
+    EXPECT_EQ(SCN_address(), 4u);
+    SCN_align(32, 0);  // at 4 already
+    EXPECT_EQ(SCN_address(), 4u);
   }
 }
