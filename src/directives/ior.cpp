@@ -59,9 +59,9 @@ void IOR_dump(IOR_STRUCT *ior, instruct *ir, int mapping_kind) {
   const unsigned count = ior->ior_length / 8;
   const bool big = curseg && curseg->scn_big_endian;
   const uint8_t *d = ior->ior_data;
-  if (count == 4 && !big &&
-      SCN_insert_word_le(uint32_t{d[0]} | uint32_t{d[1]} << 8 | uint32_t{d[2]} << 16 | uint32_t{d[3]} << 24,
-                         mapping_kind)) {
+  if (!big &&
+      SCN_insert_bytes_le(uint32_t{d[0]} | uint32_t{d[1]} << 8 | uint32_t{d[2]} << 16 | uint32_t{d[3]} << 24,
+                          count, mapping_kind)) {
     IOR_clear(ior);
     return;
   }

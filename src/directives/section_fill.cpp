@@ -179,16 +179,26 @@ void SCN_insert_field(unsigned bits, const INT128 &value, instruct *ir, int mapp
   insert_bits(bits, v.is_zero(), [&v](unsigned lo, unsigned n) { return bits_of(v, lo, n); }, ir, swap);
 }
 
-bool SCN_insert_word_le(uint32_t word, int mapping_kind) {
-  // What four SCN_insert_byte calls do when the accumulator is empty or full
-  // and the section little-endian; anything else goes byte by byte.
-  if (!curseg || curseg->scn_big_endian || (curseg->scn_field_bits != 0 && curseg->scn_field_bits != 32) ||
-      !SCN_room(32))
+bool SCN_insert_bytes_le(uint32_t value, unsigned count, int mapping_kind) {
+  // What `count` SCN_insert_byte calls do, the low byte first, in a
+  // little-endian section on a byte boundary; anything else goes byte by byte.
+  if (!curseg || curseg->scn_big_endian || count == 0 || count > 4 || curseg->scn_field_bits % 8 != 0 ||
+      !SCN_room(8 * count))
     return false;
   TRG_add_mapping_sym(mapping_kind);
+  const uint64_t v = value & low_mask(8 * count);
   if (curseg->scn_field_bits == 32) write_out_accumulator();
-  curseg->scn_field_word |= word;
+  const unsigned space = 32 - curseg->scn_field_bits;
+  curseg->scn_field_word |= static_cast<uint32_t>(v << curseg->scn_field_bits);
+  if (8 * count <= space) {
+    curseg->scn_field_bits += 8 * count;
+    return true;
+  }
+  // The word fills up: it goes out, and the rest starts the next one.
   curseg->scn_field_bits = 32;
+  write_out_accumulator();
+  curseg->scn_field_word = static_cast<uint32_t>(v >> space);
+  curseg->scn_field_bits = 8 * count - space;
   return true;
 }
 

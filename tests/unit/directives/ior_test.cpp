@@ -43,8 +43,8 @@ TEST_F(SectionsTest, RecordFieldsReplaceTheirBitsOnly) {
 }
 
 TEST_F(SectionsTest, RecordBytesGoOutAsSingleBytesWould) {
-  // Before the record: 0 to 5 bytes, so the accumulator is empty, partly
-  // filled or full; then a word record, then a half-word record.
+  // Before the records: 0 to 5 bytes, so the accumulator is empty, partly
+  // filled or full; then records of 4, 2, 3 and 1 bytes, which cross words.
   for (bool big : {false, true}) {
     for (unsigned before = 0; before <= 5; ++before) {
       std::vector<uint8_t> expected;
@@ -55,9 +55,10 @@ TEST_F(SectionsTest, RecordBytesGoOutAsSingleBytesWould) {
         start_pass2();
         SCN_queue(SCN_KIND_DATA, ".data");
         for (unsigned k = 0; k < before; ++k) SCN_insert_byte(0xA0 + k, 0);
-        const uint32_t words[] = {0x12345678u, 0x9ABCu};
-        for (unsigned w = 0; w < 2; ++w) {
-          const unsigned n = w == 0 ? 4 : 2;
+        const uint32_t words[] = {0x12345678u, 0x9ABCu, 0xDEF012u, 0x34u};
+        const unsigned sizes[] = {4, 2, 3, 1};
+        for (unsigned w = 0; w < 4; ++w) {
+          const unsigned n = sizes[w];
           if (way == 0) {
             IOR_STRUCT ior;
             IOR_clear(&ior);
@@ -73,7 +74,7 @@ TEST_F(SectionsTest, RecordBytesGoOutAsSingleBytesWould) {
         if (way == 0) expected = bytes(".data");
         else EXPECT_EQ(hex(bytes(".data")), hex(expected)) << before << (big ? " big" : " little");
       }
-      EXPECT_EQ(expected.size(), before + 6u);
+      EXPECT_EQ(expected.size(), before + 10u);
     }
   }
 }
