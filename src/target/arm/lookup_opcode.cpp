@@ -176,7 +176,7 @@ void lookup_opcode() {
       memo->valid = true;
       std::memcpy(memo->word, given.data(), given.size());
       memo->length = static_cast<uint8_t>(given.size());
-      std::memcpy(memo->rest, rest.data(), rest.size());
+      if (!rest.empty()) std::memcpy(memo->rest, rest.data(), rest.size());
       memo->rest_length = static_cast<uint8_t>(rest.size());
       memo->head = static_cast<uint8_t>(head);
       memo->encode_state = static_cast<uint8_t>(encode_state);
