@@ -29,14 +29,18 @@ mkdir -p "$OUT"
 
 # measure NAME COMMAND...: runs the command REPS times under time -v and
 # prints "wall cpu kbytes" (best wall, best user + system, largest peak), or
-# "failed" if the command failed (its messages are kept in NAME.time.out).
+# "failed" if the command failed (the head of its messages is in NAME.time.out).
 measure() {
   log="$OUT/$1.time"
   shift
   best=""
   i=0
   while [ $i -lt "$REPS" ]; do
-    if ! "$TIME" -v "$@" >"$log.out" 2>"$log"; then
+    # The tool's messages are capped: a refused program can print hundreds
+    # of megabytes of them (and is stopped when the cap is reached). Failure
+    # is read from time's report.
+    "$TIME" -v -o "$log" "$@" 2>&1 | head -c 100000 >"$log.out"
+    if grep -q -e 'Command exited with non-zero status' -e 'Command terminated by signal' "$log"; then
       echo failed
       return
     fi
@@ -88,6 +92,6 @@ for state in $STATES; do
     elif [ "$g" != failed ]; then
       python3 "$ROOT/bench/cmp_text.py" "$state" "$src.obj" "$src.o" || true
     fi
-    rm -f "$src.asm" "$src.s" "$src.obj" "$src.o" "$src.mc.o" "$OUT"/*.time.out
+    rm -f "$src.asm" "$src.s" "$src.obj" "$src.o" "$src.mc.o" "$OUT"/*.time "$OUT"/*.time.out
   done
 done
