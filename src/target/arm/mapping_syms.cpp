@@ -37,7 +37,7 @@ void TRG_signal_section_change() {
 }
 
 void TRG_add_mapping_sym(int kind) {
-  if (kind == 2 || !curseg) return;
+  if (kind == 2 || !curseg || !pass2) return;
   if (!signal_state_change && kind == last_kind) return;
   mapping_records.push_back({curseg->section_start() + SCN_address(), curseg, cur_state, kind});
   signal_state_change = 0;

@@ -1,5 +1,5 @@
 ; BLX to an offset (ARM code) and BXJ.
-; Values from llvm-mc -show-encoding, cross-checked with arm-none-eabi-as.
+; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; Targets are plain numbers: the offset itself.
 ; RUN: %s %o -v7A8 -mt
         BLX     0                       ;= f000 e800

@@ -1,5 +1,5 @@
 ; IT with every mask, each block filled with NOP.W of its conditions.
-; Values from llvm-mc -show-encoding, cross-checked with arm-none-eabi-as.
+; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; XFAIL: IT and CBZ are 16 bits once the width step lands
 ; RUN: %s %o -v7M3 -mt
         IT      EQ                      ;= bf08

@@ -1,5 +1,5 @@
 ; ADR.W by offset: ADDW or SUBW from PC.
-; Values from llvm-mc -show-encoding, cross-checked with arm-none-eabi-as.
+; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; Targets are plain numbers: the offset itself.
 ; RUN: %s %o -v8M33 -mt
         ADR.W   R0, 0                   ;= f20f 0000

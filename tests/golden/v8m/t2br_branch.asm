@@ -1,5 +1,5 @@
 ; Thumb-2 B.W, BL and conditional B.W by offset.
-; Values from llvm-mc -show-encoding, cross-checked with arm-none-eabi-as.
+; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; Targets are plain numbers: the offset itself.
 ; RUN: %s %o -v8M33 -mt
         B.W     0                       ;= f000 b800

@@ -1,5 +1,5 @@
 ; CBZ and CBNZ over their whole range.
-; Values from llvm-mc -show-encoding, cross-checked with arm-none-eabi-as.
+; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; Targets are plain numbers: the offset itself.
 ; XFAIL: IT and CBZ are 16 bits once the width step lands
 ; RUN: %s %o -v8M33 -mt

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <map>
 #include <set>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -123,10 +124,14 @@ TEST(CorpusCoverage, EveryArmRowAppears) {
   size_t files = 0;
   for (const auto &e : fs::recursive_directory_iterator(root)) {
     if (!e.is_regular_file() || e.path().extension() != ".asm") continue;
-    ++files;
     std::ifstream in(e.path());
     std::string line;
-    while (std::getline(in, line)) {
+    // Files assembled in Thumb state name Thumb rows, which this walk doesn't cover.
+    std::stringstream text;
+    text << in.rdbuf();
+    if (text.str().find("-mt") != std::string::npos) continue;
+    ++files;
+    while (std::getline(text, line)) {
       const std::string m = mnemonic_of(line);
       if (m.empty()) continue;
       if (const mnemonic_row *row = arm.lookup(m)) seen.insert(row->name);
