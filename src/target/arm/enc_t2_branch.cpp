@@ -27,6 +27,8 @@ constexpr uint32_t SUBW_WORD = 0xF2A00000;
 constexpr uint32_t RN_PC = 15u << 16;
 // CBNZ: the bit that tells it from CBZ.
 constexpr uint32_t CBNZ_BIT = 1u << 11;
+// The 16-bit NOP that pads a narrow call in a 32-bit slot.
+constexpr uint32_t T16_NOP = 0xBF00;
 // The pc a Thumb instruction reads is its address plus 4.
 constexpr int THUMB_PC_AHEAD = 4;
 
@@ -35,7 +37,8 @@ constexpr int THUMB_PC_AHEAD = 4;
 // offset itself.
 bool is_symbolic(const operand *op) { return is_relocatable(&op->value) || op->value.v_rel; }
 
-// The 16-bit encoder serves BLX Rm; the statement takes its 16-bit record.
+// The 16-bit encoder serves BLX Rm. A statement sized as 32 bits (no
+// narrowing ran) keeps its length: the call is followed by a NOP.
 void encode_register_call(instruct *ir) {
   const uint8_t state = encode_state;
   encode_state = STATE_THUMB16;
@@ -43,6 +46,7 @@ void encode_register_call(instruct *ir) {
   IOR_write(&ir->ior, 16, 0, ia_opcode(ir) & 0xFFFF);
   class_encoder_for(ia_class(ir)->ic_id)(ir);
   encode_state = state;
+  if (instlen == 4) IOR_write(&ir->ior, 32, 0, ENC_word(ir) << 16 | T16_NOP);
 }
 
 void encode_conditional(instruct *ir, operand *op) {

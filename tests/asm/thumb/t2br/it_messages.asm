@@ -30,3 +30,11 @@ lab:    .align  2               ; neither the label nor the directive ends the b
         NOP.W                   ;! W0004 Missing condition code inside of IT block
         NOP.W                   ;! W0004 Missing condition code inside of IT block
         NOP.W
+; The 16-bit forms set flags outside a block and only there.
+        IT      EQ
+        ADDSEQ.N R0, R0, #1     ;! E0002 Instruction cannot set status inside IT
+        ADD.N   R1, R1, #1      ;! E0002 Instruction must set status
+        ITT     NE
+        ADDNE.N R2, R2, #1
+        CMPNE.N R2, #3
+        ADDS.N  R3, R3, #1
