@@ -144,7 +144,14 @@ void encode_t2_branch(instruct *ir) {
     return;
   }
   ENC_set(ir, BRANCH_BASE);
-  if ((flags & IF_COND) && !(flags & IF_LINK))
+  // A call has no condition field, and AL or NV would make the conditional
+  // word another instruction: the branch is unconditional.
+  bool conditional = flags & IF_COND;
+  if (conditional && ((flags & IF_LINK) || ir->ia_cond >= COND_AL)) {
+    warn(ir->line, "W0004", "Invalid instruction modifier(s) ignored");
+    conditional = false;
+  }
+  if (conditional)
     encode_conditional(ir, op);
   else
     encode_unconditional(ir, op);
