@@ -133,6 +133,9 @@ def it_cases():
             cc = c if letter == "T" else inv[c]
             z = "NOP%s.W" % (cc if cc != "AL" else "")
             cs.append((z, z.lower(), z.lower()))
+    # A branch that ends a block takes the unconditional word.
+    cs += [("IT      NE", "it ne", "it ne"), ("BNE.W   8", "bne.w #8", "bne.w .+12"),
+           ("ITE     GT", "ite gt", "ite gt"), ("NOPGT.W", "nopgt.w", "nopgt.w"), ("BLLE    -8", "blle #-8", "blle .-4")]
     return cs
 
 def blx_cases():

@@ -196,3 +196,8 @@
         NOP.W                           ;= f3af 8000
         NOP.W                           ;= f3af 8000
         NOP.W                           ;= f3af 8000
+        IT      NE                      ;= bf18
+        BNE.W   8                       ;= f000 b804
+        ITE     GT                      ;= bfcc
+        NOPGT.W                         ;= f3af 8000
+        BLLE    -8                      ;= f7ff fffc
