@@ -92,7 +92,7 @@ def hdr(what, run, offsets=True, xfail=None):
     h = ["; %s" % what, "; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as."]
     if offsets: h.append("; Targets are plain numbers: the offset itself.")
     if xfail: h.append("; XFAIL: " + xfail)
-    return h + ["; RUN: %s" % run]
+    return h + ["; RUN: %s" % run, "        .thumb"]
 
 WIDTH = "IT and CBZ are 16 bits once the width step lands"
 

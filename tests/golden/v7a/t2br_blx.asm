@@ -2,6 +2,7 @@
 ; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; Targets are plain numbers: the offset itself.
 ; RUN: %s %o -v7A8 -mt
+        .thumb
         BLX     0                       ;= f000 e800
         BLX     4                       ;= f000 e802
         BLX     -4                      ;= f7ff effe

@@ -2,6 +2,7 @@
 ; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; Targets are plain numbers: the offset itself.
 ; RUN: %s %o -v7A8 -mt
+        .thumb
         B.W     0                       ;= f000 b800
         BL      0                       ;= f000 f800
         B.W     4                       ;= f000 b802

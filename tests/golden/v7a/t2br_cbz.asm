@@ -3,6 +3,7 @@
 ; Targets are plain numbers: the offset itself.
 ; XFAIL: IT and CBZ are 16 bits once the width step lands
 ; RUN: %s %o -v7A8 -mt
+        .thumb
         CBZ     R0, 0                   ;= b100
         CBNZ    R0, 0                   ;= b900
         CBZ     R1, 2                   ;= b109

@@ -2,6 +2,7 @@
 ; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; Targets are plain numbers: the offset itself.
 ; RUN: %s %o -v7M3 -mt
+        .thumb
         ADR.W   R0, 0                   ;= f20f 0000
         ADR.W   R1, 1                   ;= f20f 0101
         ADR.W   R2, -1                  ;= f2af 0201

@@ -2,6 +2,7 @@
 ; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; XFAIL: IT and CBZ are 16 bits once the width step lands
 ; RUN: %s %o -v8M33 -mt
+        .thumb
         IT      EQ                      ;= bf08
         NOPEQ.W                         ;= f3af 8000
         ITT     EQ                      ;= bf04
