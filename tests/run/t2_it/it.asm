@@ -3,7 +3,7 @@
 ; Thumb-2.
 ; BUILD: -v7A8
 ; BUILD: -v7M3
-; XFAIL: needs the Thumb 16-bit, Thumb-2 data-processing and load/store encoders
+; XFAIL: needs the Thumb-2 data-processing encoders and the width choice (16-bit IT and CBZ)
         .text
         .thumb
         .global it_max_s
