@@ -138,9 +138,12 @@ TEST(CorpusCoverage, EveryArmRowAppears) {
     ++files;
     std::ifstream in(e.path());
     std::string line;
+    bool thumb = false;  // Thumb-only mnemonics are not the ARM lookup's to judge
     while (std::getline(in, line)) {
+      if (line.find(".thumb") != std::string::npos || line.find(".state16") != std::string::npos) thumb = true;
       const std::string m = mnemonic_of(line);
       if (m.empty()) continue;
+      if (thumb) continue;
       if (const mnemonic_row *row = arm.lookup(m)) seen.insert(row->name);
       else unknown.insert(m + " in " + e.path().filename().string());
     }
