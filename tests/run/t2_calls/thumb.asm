@@ -4,7 +4,6 @@
 ; those BLs BLX), Thumb to C and C to Thumb.
 ; BUILD: -v7A8
 ; BUILD: -v7R4
-; XFAIL: needs the Thumb-2 data-processing encoders and the width choice (16-bit IT and CBZ)
         .text
         .thumb
         .global tc_fib

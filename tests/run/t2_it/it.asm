@@ -3,7 +3,7 @@
 ; Thumb-2.
 ; BUILD: -v7A8
 ; BUILD: -v7M3
-; XFAIL: needs the Thumb-2 data-processing encoders and the width choice (16-bit IT and CBZ)
+; XFAIL: needs the width choice (IT and CBZ are 16 bits)
         .text
         .thumb
         .global it_max_s
@@ -17,7 +17,7 @@
         .global it_branch
         .global it_sum
         .global it_count_zero
-        .global it_gcd
+        .global it_count_above
 
 ; the signed greater of a and b
 it_max_s:
@@ -133,11 +133,17 @@ count_done:
         MOV     R0, R2
         BX      LR
 
-; the greatest common divisor of a and b (both not 0), by subtraction
-it_gcd:
-        CMP     R0, R1
-        ITE     GT
-        SUBGT   R0, R0, R1
-        SUBLE   R1, R1, R0
-        BNE     it_gcd
+; how many of the n words at p are above b (signed), counted in an IT block
+it_count_above:
+        MOVS    R3, #0
+above_loop:
+        CBZ     R1, above_done
+        LDR     R12, [R0], #4
+        SUBS    R1, R1, #1
+        CMP     R12, R2
+        IT      GT
+        ADDGT   R3, R3, #1
+        B       above_loop
+above_done:
+        MOV     R0, R3
         BX      LR

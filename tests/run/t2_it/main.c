@@ -5,7 +5,7 @@ typedef uint32_t op3(uint32_t, uint32_t, uint32_t);
 op3 it_max_s, it_min_u, it_abs, it_clamp, it_sign, it_sel, it_carry, it_overflow, it_branch;
 uint32_t it_sum(const uint32_t *p, uint32_t n);
 uint32_t it_count_zero(const uint8_t *p, uint32_t n);
-uint32_t it_gcd(uint32_t a, uint32_t b);
+uint32_t it_count_above(const uint32_t *p, uint32_t n, uint32_t b);
 
 static uint32_t c_max_s(uint32_t a, uint32_t b, uint32_t c) { (void)c; return (int32_t)a < (int32_t)b ? b : a; }
 static uint32_t c_min_u(uint32_t a, uint32_t b, uint32_t c) { (void)c; return a > b ? b : a; }
@@ -68,15 +68,12 @@ int main(void) {
     check32(what, it_count_zero(bytes, n), zeros);
   }
 
-  for (uint32_t a = 1; a < 60; a += 7)
-    for (uint32_t b = 1; b < 90; b += 11) {
-      uint32_t x = a, y = b;
-      while (y) {
-        const uint32_t t = x % y;
-        x = y, y = t;
-      }
-      snprintf(what, sizeof what, "gcd(%u, %u)", a, b);
-      check32(what, it_gcd(a, b), x);
+  for (unsigned k = 0; k < CHECK_NVALUES; ++k)
+    for (unsigned n = 0; n <= CHECK_NVALUES; n += 4) {
+      uint32_t above = 0;
+      for (unsigned i = 0; i < n; ++i) above += (int32_t)check_values[i] > (int32_t)check_values[k];
+      snprintf(what, sizeof what, "count_above(%u, 0x%x)", n, check_values[k]);
+      check32(what, it_count_above(check_values, n, check_values[k]), above);
     }
   return check_done("t2_it");
 }

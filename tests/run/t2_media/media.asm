@@ -2,7 +2,6 @@
 ; extension and the multiplies, in Thumb-2.
 ; BUILD: -v7A8
 ; BUILD: -v7M4
-; XFAIL: needs the Thumb-2 data-processing encoders and the width choice (16-bit IT and CBZ)
         .text
         .thumb
         .global tm_ubfx
