@@ -86,9 +86,10 @@ void SYM_record_label_jump(symbol_record *sym) {
 }
 
 void VLI_addalign(int power, int32_t pad) {
-  // A byte (or finer) alignment never has a gap to give or take: every
-  // walk passes it unchanged, so it needs no record.
-  if (power <= 0) return;
+  // Lengths, and so every shift, change by even amounts only, which an
+  // alignment to 2 bytes or less passes on unchanged. Every statement aligns
+  // itself: Thumb ones to 2 bytes, data bytes to 1; none of these needs a record.
+  if (power <= 1) return;
   VLI_addjump(JUMP_ALIGN, 0, nullptr, 0, nullptr, nullptr, static_cast<uint16_t>(power), pad);
 }
 
@@ -156,7 +157,7 @@ bool chained_branch(int class_id, int *out) {
   if (cur_state != STATE_THUMB16 || (class_id != IC_T_BT && class_id != IC_T_BQ) || !curseg) return false;
   const auto section = chained_at.find(curseg);
   if (section == chained_at.end()) return false;
-  const auto found = section->second.find(curpc);
+  const auto found = section->second.find(SCN_address());
   if (found == section->second.end()) return false;
   const jumprec *rec = found->second;
   *out = static_cast<int32_t>(rec->chain->pc - rec->pc - 4) >> 1;
