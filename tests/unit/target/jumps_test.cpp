@@ -93,6 +93,7 @@ class Jumps : public ::testing::Test {
     isize_list.clear();
   }
   void TearDown() override {
+    seglist = nullptr;  // the layouts of the test are gone
     VLI_free_jumps();
     seglist = saved_seglist_;
     curseg = saved_curseg_;
@@ -438,6 +439,52 @@ TEST_F(Jumps, ManyBranchesOverLargeGapsSettleQuickly) {
   EXPECT_EQ(a.length(99999), 4u);
   EXPECT_EQ(a.at("L0"), 8u);
   EXPECT_EQ(a.at("L100000"), 800000u);
+}
+
+TEST_F(Jumps, ChainSearchOfASectionAtOnceGivesTheSearchOfEachBranch) {
+  // Many far pseudo-branches to few targets, ahead and behind, with every
+  // condition and small limits.
+  auto build = [](layout &a, uint32_t seed) {
+    std::mt19937 rng(seed);
+    auto pick = [&](uint32_t n) { return static_cast<uint32_t>(rng() % n); };
+    const JUMP_LIST_TYPE kinds[] = {JUMP_COND, JUMP_UNCOND, JUMP_COND_FAR, JUMP_LOAD_ADDR};
+    a.jump(JUMP_UNCOND, "T0");
+    for (uint32_t i = 0; i < 300; ++i) {
+      if (pick(8) == 0) a.label("T" + std::to_string(pick(4)));
+      const auto cond = static_cast<uint8_t>(pick(3) == 0 ? uint32_t{COND_NV} : pick(3));
+      a.jump(kinds[pick(4)], "T" + std::to_string(pick(4)), cond, static_cast<int32_t>(pick(4)));
+      a.code(2 * pick(pick(4) == 0 ? 1000 : 60));
+    }
+  };
+  int chained = 0;
+  for (uint32_t seed = 1; seed <= 150; ++seed) {
+    layout a, b;
+    build(a, seed);
+    build(b, seed);
+    use({&a});
+    for (jumprec *r = a.section.scn_jumps.head; r; r = r->next)
+      if (is_jump_kind(r->kind) && r->chain_limit != 0 && VLI_jump_size(&a.section, r) >= 3)
+        can_chain_branch(&a.section, r);
+    for (jumprec *r = a.section.scn_jumps.head; r; r = r->next) {
+      int64_t links = 0;
+      for (const jumprec *p = r; p->chain && links <= 1000; p = p->chain) ++links;
+      if (links > r->chain_limit) r->chain = nullptr;
+    }
+    use({&b});
+    cur_state = 1;
+    reintroduce_branch_chains();
+    for (size_t k = 0; k < a.jumps.size(); ++k) {
+      const jumprec *x = a.jumps[k], *y = b.jumps[k];
+      ASSERT_EQ(x->chain != nullptr, y->chain != nullptr) << "seed " << seed << " jump " << k;
+      if (!x->chain) continue;
+      ++chained;
+      EXPECT_EQ(x->chain->pc, y->chain->pc) << "seed " << seed << " jump " << k;
+      EXPECT_EQ(x->chain_size, y->chain_size);
+    }
+    VLI_free_jumps();
+    isize_list.clear();
+  }
+  EXPECT_GT(chained, 1000);
 }
 
 TEST_F(Jumps, ChainsOnlyInPlainThumbWithinTheirLimits) {
