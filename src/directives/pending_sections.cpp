@@ -6,12 +6,6 @@
 #include "driver/records.h"
 #include "source/lexer.h"
 
-// Jump expansion makes it real; until then no section has a jump list and
-// nothing calls this.
-void VLI_addalign(int, int32_t) {
-  error_internal(1, curline, "alignment record without jump expansion");
-}
-
 // Assembly-source debug makes these real. dw_init refuses the DWARF modes
 // until then, so there is no debug data to add to.
 DWE::DW_DIE *DBD_curr_asmfunc = nullptr;
