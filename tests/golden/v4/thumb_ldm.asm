@@ -1,0 +1,59 @@
+; 16-bit PUSH, POP, LDM and STM.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v4
+; XFAIL: the 16-bit Thumb encoders are not on main yet
+        .thumb
+        PUSH    {R0}                            ;= b401
+        PUSH    {R7}                            ;= b480
+        PUSH    {R0-R7}                         ;= b4ff
+        PUSH    {R1, R3, R5}                    ;= b42a
+        PUSH    {R2-R4, R6}                     ;= b45c
+        PUSH    {R4-R7, LR}                     ;= b5f0
+        PUSH    {LR}                            ;= b500
+        PUSH    {R0, LR}                        ;= b501
+        POP     {R0}                            ;= bc01
+        POP     {R7}                            ;= bc80
+        POP     {R0-R7}                         ;= bcff
+        POP     {R1, R3, R5}                    ;= bc2a
+        POP     {R2-R4, R6}                     ;= bc5c
+        POP     {R4-R7, PC}                     ;= bdf0
+        POP     {PC}                            ;= bd00
+        POP     {R0, PC}                        ;= bd01
+        STMIA   R0!, {R1}                       ;= c002
+        STM     R0!, {R1}                       ;= c002
+        STMEA   R0!, {R1}                       ;= c002  ; note: STMEA is STMIA
+        LDMIA   R0!, {R1}                       ;= c802
+        LDM     R0!, {R1}                       ;= c802
+        LDMFD   R0!, {R1}                       ;= c802  ; note: LDMFD is LDMIA
+        STMIA   R5!, {R0-R3}                    ;= c50f
+        STM     R5!, {R0-R3}                    ;= c50f
+        STMEA   R5!, {R0-R3}                    ;= c50f  ; note: STMEA is STMIA
+        LDMIA   R5!, {R0-R3}                    ;= cd0f
+        LDM     R5!, {R0-R3}                    ;= cd0f
+        LDMFD   R5!, {R0-R3}                    ;= cd0f  ; note: LDMFD is LDMIA
+        STMIA   R2!, {R4-R7}                    ;= c2f0
+        STM     R2!, {R4-R7}                    ;= c2f0
+        STMEA   R2!, {R4-R7}                    ;= c2f0  ; note: STMEA is STMIA
+        LDMIA   R2!, {R4-R7}                    ;= caf0
+        LDM     R2!, {R4-R7}                    ;= caf0
+        LDMFD   R2!, {R4-R7}                    ;= caf0  ; note: LDMFD is LDMIA
+        STMIA   R7!, {R0, R2, R4, R6}           ;= c755
+        STM     R7!, {R0, R2, R4, R6}           ;= c755
+        STMEA   R7!, {R0, R2, R4, R6}           ;= c755  ; note: STMEA is STMIA
+        LDMIA   R7!, {R0, R2, R4, R6}           ;= cf55
+        LDM     R7!, {R0, R2, R4, R6}           ;= cf55
+        LDMFD   R7!, {R0, R2, R4, R6}           ;= cf55  ; note: LDMFD is LDMIA
+        STMIA   R0!, {R1-R7}                    ;= c0fe
+        STM     R0!, {R1-R7}                    ;= c0fe
+        STMEA   R0!, {R1-R7}                    ;= c0fe  ; note: STMEA is STMIA
+        LDMIA   R0!, {R1-R7}                    ;= c8fe
+        LDM     R0!, {R1-R7}                    ;= c8fe
+        LDMFD   R0!, {R1-R7}                    ;= c8fe  ; note: LDMFD is LDMIA
+        LDMIA   R0, {R0, R1}                    ;= c803
+        LDM     R0, {R0, R1}                    ;= c803
+        LDMIA   R3, {R0-R3}                     ;= cb0f
+        LDM     R3, {R0-R3}                     ;= cb0f
+        LDMIA   R7, {R7}                        ;= cf80
+        LDM     R7, {R7}                        ;= cf80
+        LDMIA   R4, {R2, R4, R6}                ;= cc54
+        LDM     R4, {R2, R4, R6}                ;= cc54
