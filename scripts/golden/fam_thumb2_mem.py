@@ -129,6 +129,7 @@ def branch_label(a):
     if a.t2:
         out += [E('ADR R8, fwd'), E('ADR R2, back'), E('ADR.W R3, fwd'), E('LDR R9, fwd'), E('LDR R4, back'),
                 E('LDR.W R5, fwd'), E('LDRB R6, fwd'), E('LDRSH R3, back'), E('LDRD R0, R1, fwd')]
+    out += [E('CRET back', 'b back', 'CRET is a B'), E('CRET fwd', 'b fwd', 'CRET is a B')]
     out += [E('MOVS R3, #3'), lab('fwd'), E('MOVS R4, #4'), E('MOVS R0, #2')]
     # Distances at the edges of the narrow forms.
     out += [lab('far')] + [E('MOVS R1, #1') for _ in range(120)]

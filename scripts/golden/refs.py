@@ -119,10 +119,10 @@ THUMB_TOOLS = {
     'v5e': (['-triple=thumbv5te'], ['-march=armv5te']),
     'v6': (['-triple=thumbv6'], ['-march=armv6']),
     'v6m': (['-triple=thumbv6m'], ['-march=armv6-m']),
-    'v7a': (['-triple=thumbv7a', '-mcpu=cortex-a8', '-mattr=+trustzone'], ['-mcpu=cortex-a8']),
+    'v7a': (['-triple=thumbv7a', '-mcpu=cortex-a8', '-mattr=+trustzone'], ['-mcpu=cortex-a8', '-mfpu=vfpv3']),
     'v7r': (['-triple=thumbv7r', '-mcpu=cortex-r4'], ['-mcpu=cortex-r4']),
     'v7m': (['-triple=thumbv7m', '-mcpu=cortex-m3'], ['-mcpu=cortex-m3']),
-    'v7em': (['-triple=thumbv7em', '-mcpu=cortex-m4'], ['-mcpu=cortex-m4']),
+    'v7em': (['-triple=thumbv7em', '-mcpu=cortex-m4'], ['-mcpu=cortex-m4', '-mfpu=fpv4-sp-d16']),
     'v8m': (['-triple=thumbv8m.main', '-mcpu=cortex-m33'], ['-mcpu=cortex-m33']),
 }
 

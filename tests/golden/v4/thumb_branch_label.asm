@@ -8,13 +8,15 @@ back
         B       back                            ;= e7fd
         BEQ     back                            ;= d0fc
         BL      back                            ;= f7ff fffb
-        B       fwd                             ;= e007
-        BNE     fwd                             ;= d106
-        BGT     fwd                             ;= dc05
-        BL      fwd                             ;= f000 f804
-        ADR     R0, fwd                         ;= a001
-        LDR     R1, fwd                         ;= 4901
-        ADR     R7, fwd                         ;= a700
+        B       fwd                             ;= e009
+        BNE     fwd                             ;= d108
+        BGT     fwd                             ;= dc07
+        BL      fwd                             ;= f000 f806
+        ADR     R0, fwd                         ;= a002
+        LDR     R1, fwd                         ;= 4902
+        ADR     R7, fwd                         ;= a701
+        CRET    back                            ;= e7f1  ; note: CRET is a B
+        CRET    fwd                             ;= e000  ; note: CRET is a B
         MOVS    R3, #3                          ;= 2303
 fwd
         MOVS    R4, #4                          ;= 2404

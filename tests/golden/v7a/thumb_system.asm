@@ -58,6 +58,7 @@
         UDF.W   #65535                          ;= f7ff afff
         CLREX                                   ;= f3bf 8f2f
         SVC     #200                            ;= dfc8
+        FMSTAT                                  ;= eef1 fa10  ; note: FMSTAT is VMRS APSR_nzcv
         IT      EQ                              ;= bf08
         SVCEQ   #1                              ;= df01
         IT      HI                              ;= bf88
