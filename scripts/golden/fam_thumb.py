@@ -20,7 +20,7 @@ def _n(a, text, ref=None, note=None, follow=None):
 
 
 # Where the references differ, this assembler's choices.
-IMM3 = ('llvm', 'the three-bit immediate form: Rd, Rn and #imm are three operands')
+IMM3 = ('gnu', 'Rd repeats: the two-operand form with its eight-bit field')
 ADD_HI = ('llvm', 'two registers: the high-register form of ADD')
 
 
@@ -66,11 +66,12 @@ def arith(a):
             out.append(E('ADD.N %s, PC, #%d' % (d, imm), follow=('gnu', 'the narrow form of ADR')))
         else:
             out.append(E('ADD %s, PC, #%d' % (d, imm)))
+    # The 16-bit SUB takes low registers only: a negative ADD lowers SP.
     for imm in [0, 4, 16, 256, 504, 508]:
         out += _n(a, 'ADD SP, #%d' % imm)
-        out += _n(a, 'SUB SP, #%d' % imm)
         out += _n(a, 'ADD SP, SP, #%d' % imm)
-        out += _n(a, 'SUB SP, SP, #%d' % imm)
+        if imm:
+            out += _n(a, 'ADD SP, #-%d' % imm, 'sub sp, #%d' % imm, 'becomes SUB')
     for r in ['R0', 'R5', 'R8', 'LR']:
         out += _n(a, 'ADD SP, %s' % r)
     out += _n(a, 'ADD R3, SP, R3') + _n(a, 'ADD SP, SP, R9')
@@ -217,7 +218,7 @@ def misc(a):
         out += _n(a, 'SVC #%d' % n)
         if a.level >= 5:
             out += _n(a, 'BKPT #%d' % n)
-    out.append(E('SVC 0x12', 'svc #0x12'))
+    out.append(E('SVC #0x12', 'svc #0x12'))
     if a.t2 or a.name == 'v6m':
         out += _n(a, 'NOP', follow=('llvm', 'the Thumb-2 state: the hint NOP'))
         for h in ['SEV', 'WFE', 'WFI', 'YIELD']:
@@ -266,7 +267,7 @@ def state16(a):
     out += [E('ADD R8, R9'), E('MOV R10, R2'), E('CMP R11, R3'), E('ADD SP, #-8', 'sub sp, #8', 'becomes SUB'),
             E('ADD R0, #-1', 'subs r0, #1', 'becomes SUB'), E('SUB R1, #-2', 'adds r1, #2', 'becomes ADD')]
     for n in [0, 1, 0xFF]:
-        out.append(E('SWI %d' % n, 'svc #%d' % n, 'SWI is SVC'))
+        out.append(E('SWI #%d' % n, 'svc #%d' % n, 'SWI is SVC'))
     if a.level >= 6:
         out += [E('CPY R0, R1', 'mov r0, r1', 'CPY is MOV'), E('CPY R9, R2', 'mov r9, r2', 'CPY is MOV')]
     out.append(E('NOP', want='46c0', note='MOV R8, R8'))

@@ -153,8 +153,7 @@ WIDTH = ['ADD {0}, {0}, {1}', 'ADD {0}, {1}, {0}', 'ADDS {0}, {0}, {1}', 'ADD {0
          'LSLS {0}, {1}, #2', 'LSL {0}, {1}, #2', 'LSRS {0}, {1}, #32', 'ASRS {0}, {1}, #1', 'LSLS {0}, {0}, {1}',
          'LSL {0}, {0}, {1}', 'RORS {0}, {0}, {1}', 'ASR {0}, {0}, {1}', 'NEGS {0}, {1}', 'RSBS {0}, {1}, #0',
          'RSB {0}, {1}, #0', 'MOVS {0}, {1}, LSL #3', 'MOV {0}, {1}, LSR #4', 'MOVS {0}, {1}, ASR #5',
-         'MOVS {0}, {1}, ROR #5', 'ADC {0}, {0}, {1}', 'ADD {0}, SP, #4', 'ADD SP, SP, #8', 'SUB SP, SP, #8',
-         'ADD SP, #12', 'ADD {0}, SP, {0}']
+         'MOVS {0}, {1}, ROR #5', 'ADC {0}, {0}, {1}', 'ADD {0}, SP, #4', 'ADD SP, SP, #8', 'ADD SP, #12', 'ADD {0}, SP, {0}']
 WIDTH_HIGH = ['ADD {3}, {3}, {1}', 'ADDS {3}, {3}, {1}', 'ADD {3}, {1}', 'ADD {0}, {3}', 'MOV {3}, {0}',
               'MOVS {3}, {0}', 'MOV {0}, {3}', 'CMP {3}, {0}', 'CMP {3}, #1', 'ANDS {3}, {3}, {0}', 'LSLS {3}, {0}, #1',
               'MOVS {0}, {3}', 'ADD {3}, {0}, {3}', 'SUBS {3}, {3}, #1', 'MVNS {3}, {0}']
@@ -186,12 +185,17 @@ def width(a):
         for _ in range(2):
             regs = _r(a, 3, range(8)) + _r(a, 1, range(8, 13))
             out.append(E(_fill(t, regs), follow=f))
-        if t.startswith('MULS'):
-            continue  # no flag-setting MUL inside an IT block
+        if t.startswith('MULS') or t.startswith('NEGS'):
+            continue  # a flag-setting line of 16 bits only: not inside a block
         regs = _r(a, 3, range(8)) + _r(a, 1, range(8, 13))
         c = a.pick(CONDS16[:14])
         out += it_wrap(a, c, _cond_src(t, regs, c), _cond_ref(t, regs, c))
         out[-1].follow = f
+    # No 16-bit SUB of SP: the wide form.
+    why = 'no 16-bit SUB of SP: the wide form'
+    out += [E('SUB SP, SP, #8', 'sub.w sp, sp, #8', why), E('SUB SP, #12', 'sub.w sp, sp, #12', why)]
+    out += it_wrap(a, 'NE', 'SUBNE SP, SP, #16', 'subne.w sp, sp, #16')
+    out[-1].note = why
     return out
 
 

@@ -4,6 +4,7 @@ from entries import E, lab, low
 from fam_thumb import CONDS16, it_wrap
 from fam_thumb2 import GP, _w
 
+RELOC = 'relocated: the field holds the addend'
 SINGLE = ['LDR', 'STR', 'LDRB', 'STRB', 'LDRH', 'STRH', 'LDRSB', 'LDRSH']
 
 
@@ -120,16 +121,23 @@ def excl(a):
 def branch_label(a):
     """Branches, ADR and loads of labels: their length follows the distance."""
     out = [lab('back')]
-    out += [E('MOVS R0, #1'), E('B back'), E('BEQ back'), E('BL back'), E('B fwd'), E('BNE fwd'),
-            E('BGT fwd'), E('BL fwd')]
+    # A call, and a wide branch, of a label is relocated also in its own
+    # section: the field holds the addend, -4.
+    out += [E('MOVS R0, #1'), E('B back'), E('BEQ back'), E('BL back', 'bl {br:-4}', RELOC), E('B fwd'),
+            E('BNE fwd'), E('BGT fwd'), E('BL fwd', 'bl {br:-4}', RELOC)]
     if a.t2:
-        out += [E('B.W back'), E('BEQ.W fwd'), E('B.N fwd'), E('BLE.N back')]
+        out += [E('B.W back', 'b.w {br:-4}', RELOC), E('BEQ.W fwd', 'beq.w {br:-4}', RELOC),
+                E('BLT.W back', 'blt.w {br:-4}', RELOC), E('B.N fwd'), E('BLE.N back'),
+                E('CRET.W fwd', 'b.w {br:-4}', 'CRET is a B; ' + RELOC)]
         out += it_wrap(a, 'EQ', 'BEQ fwd', 'beq fwd') + it_wrap(a, 'LT', 'BLT back', 'blt back')
     out += [E('ADR R0, fwd'), E('LDR R1, fwd'), E('ADR R7, fwd')]
     if a.t2:
         out += [E('ADR R8, fwd'), E('ADR R2, back'), E('ADR.W R3, fwd'), E('LDR R9, fwd'), E('LDR R4, back'),
                 E('LDR.W R5, fwd'), E('LDRB R6, fwd'), E('LDRSH R3, back'), E('LDRD R0, R1, fwd')]
-    out += [E('CRET back', 'b back', 'CRET is a B'), E('CRET fwd', 'b fwd', 'CRET is a B')]
+    if a.t2:
+        out += [E('CRET back', 'b.w {br:-4}', 'CRET is a B; ' + RELOC)]
+    else:
+        out += [E('CRET back', 'b back', 'CRET is a B'), E('CRET fwd', 'b fwd', 'CRET is a B')]
     out += [E('MOVS R3, #3'), lab('fwd'), E('MOVS R4, #4'), E('MOVS R0, #2')]
     # Distances at the edges of the narrow forms.
     out += [lab('far')] + [E('MOVS R1, #1') for _ in range(120)]

@@ -7,11 +7,11 @@ back
         MOVS    R0, #1                          ;= 2001
         B       back                            ;= e7fd
         BEQ     back                            ;= d0fc
-        BL      back                            ;= f7ff fffb
+        BL      back                            ;= f7ff fffe  ; note: relocated: the field holds the addend
         B       fwd                             ;= e009
         BNE     fwd                             ;= d108
         BGT     fwd                             ;= dc07
-        BL      fwd                             ;= f000 f806
+        BL      fwd                             ;= f7ff fffe  ; note: relocated: the field holds the addend
         ADR     R0, fwd                         ;= a002
         LDR     R1, fwd                         ;= 4902
         ADR     R7, fwd                         ;= a701

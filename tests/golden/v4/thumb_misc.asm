@@ -8,5 +8,5 @@
         SVC     #127                            ;= df7f
         SVC     #128                            ;= df80
         SVC     #255                            ;= dfff
-        SVC     0x12                            ;= df12
+        SVC     #0x12                           ;= df12
         NOP                                     ;= 46c0  ; note: MOV R8, R8

@@ -13,5 +13,5 @@
         BKPT    #128                            ;= be80
         SVC     #255                            ;= dfff
         BKPT    #255                            ;= beff
-        SVC     0x12                            ;= df12
+        SVC     #0x12                           ;= df12
         NOP                                     ;= 46c0  ; note: MOV R8, R8

@@ -13,7 +13,7 @@
         BKPT    #128                            ;= be80
         SVC     #255                            ;= dfff
         BKPT    #255                            ;= beff
-        SVC     0x12                            ;= df12
+        SVC     #0x12                           ;= df12
         NOP                                     ;= 46c0  ; note: MOV R8, R8
         SXTB    R0, R7                          ;= b278
         SXTB    R1, R0                          ;= b241

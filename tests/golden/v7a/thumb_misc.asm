@@ -23,7 +23,7 @@
         SVC.N   #255                            ;= dfff
         BKPT    #255                            ;= beff
         BKPT.N  #255                            ;= beff
-        SVC     0x12                            ;= df12
+        SVC     #0x12                           ;= df12
         NOP                                     ;= bf00
         NOP.N                                   ;= bf00
         SEV                                     ;= bf40

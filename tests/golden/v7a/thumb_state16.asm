@@ -159,9 +159,9 @@
         ADD     SP, #-8                         ;= b082  ; note: becomes SUB
         ADD     R0, #-1                         ;= 3801  ; note: becomes SUB
         SUB     R1, #-2                         ;= 3102  ; note: becomes ADD
-        SWI     0                               ;= df00  ; note: SWI is SVC
-        SWI     1                               ;= df01  ; note: SWI is SVC
-        SWI     255                             ;= dfff  ; note: SWI is SVC
+        SWI     #0                              ;= df00  ; note: SWI is SVC
+        SWI     #1                              ;= df01  ; note: SWI is SVC
+        SWI     #255                            ;= dfff  ; note: SWI is SVC
         CPY     R0, R1                          ;= 4608  ; note: CPY is MOV
         CPY     R9, R2                          ;= 4691  ; note: CPY is MOV
         NOP                                     ;= 46c0  ; note: MOV R8, R8
