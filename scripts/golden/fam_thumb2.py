@@ -177,6 +177,19 @@ WIDTH_FOLLOW = {'ADD {0}, {1}': ADD_HI, 'ADD {0}, {0}, {1}': ADD_HI, 'ADD {0}, {
                 'ADD {0}, {0}, #1': IMM3}
 
 
+def _hi_add(d, m):
+    return '%04x' % (0x4400 | (d & 8) << 4 | m << 3 | d & 7)
+
+
+# Inside an IT block, where the references take the flag-setting encodings
+# (which set no flags there), this assembler keeps its own choices: an ADD of
+# three registers with Rd repeated folds to the high-register ADD, and a MOV of
+# two low registers is the 16-bit MOV's ADD Rd, Rm, #0.
+IN_IT = {'ADD {0}, {0}, {1}': lambda d, m, *_: (_hi_add(d, m), 'Rd repeats: folded to ADD Rd, Rm'),
+         'ADD {0}, {1}, {0}': lambda d, m, *_: (_hi_add(d, m), 'Rd repeats: folded to ADD Rd, Rm'),
+         'MOV {0}, {1}': lambda d, m, *_: ('%04x' % (0x1C00 | m << 3 | d), 'ADD Rd, Rm, #0 inside the block')}
+
+
 def width(a):
     """Unsuffixed lines: the narrow encoding wherever it means the same."""
     out = []
@@ -191,6 +204,8 @@ def width(a):
         c = a.pick(CONDS16[:14])
         out += it_wrap(a, c, _cond_src(t, regs, c), _cond_ref(t, regs, c))
         out[-1].follow = f
+        if t in IN_IT:
+            out[-1].want, out[-1].note = IN_IT[t](*[int(r[1:]) for r in regs])
     # No 16-bit SUB of SP: the wide form.
     why = 'no 16-bit SUB of SP: the wide form'
     out += [E('SUB SP, SP, #8', 'sub.w sp, sp, #8', why), E('SUB SP, #12', 'sub.w sp, sp, #12', why)]

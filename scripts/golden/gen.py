@@ -221,7 +221,10 @@ def encode_thumb_file(arch, entries, review, where):
             if e.label:
                 pending.append(e.label)
             elif not e.raw and id(e) in live:
-                text = e.ref if e.want is None else '.short ' + ', '.join('0x' + h for h in e.want.split())
+                # A line of our own value takes its place as data, but inside
+                # an IT block the block needs an instruction: its reference text.
+                own = e.want is not None and e.group is None
+                text = '.short ' + ', '.join('0x' + h for h in e.want.split()) if own else e.ref
                 lines.append((e, ''.join(n + ': ' for n in pending) + text))
                 pending = []
         groups = [e.group for e, _ in lines]

@@ -6,11 +6,11 @@
         ADD     R4, R4, R2                      ;= 4414
         ADD     R1, R1, R4                      ;= 4421
         IT      GT                              ;= bfc8
-        ADDGT   R4, R4, R2                      ;= 18a4
+        ADDGT   R4, R4, R2                      ;= 4414  ; note: Rd repeats: folded to ADD Rd, Rm
         ADD     R3, R5, R3                      ;= 442b
         ADD     R3, R4, R3                      ;= 4423
         IT      VS                              ;= bf68
-        ADDVS   R7, R0, R7                      ;= 19c7
+        ADDVS   R7, R0, R7                      ;= 4407  ; note: Rd repeats: folded to ADD Rd, Rm
         ADDS    R6, R6, R5                      ;= 1976
         ADDS    R6, R6, R0                      ;= 1836
         IT      GT                              ;= bfc8
@@ -152,7 +152,7 @@
         MOV     R7, R3                          ;= 461f
         MOV     R0, R5                          ;= 4628
         IT      NE                              ;= bf18
-        MOVNE   R7, R3                          ;= 461f
+        MOVNE   R7, R3                          ;= 1c1f  ; note: ADD Rd, Rm, #0 inside the block
         CMP     R4, R5                          ;= 42ac
         CMP     R1, R3                          ;= 4299
         IT      MI                              ;= bf48

@@ -6,11 +6,11 @@
         ADD     R6, R6, R4                      ;= 4426
         ADD     R6, R6, R0                      ;= 4406
         IT      CS                              ;= bf28
-        ADDCS   R5, R5, R4                      ;= 192d
+        ADDCS   R5, R5, R4                      ;= 4425  ; note: Rd repeats: folded to ADD Rd, Rm
         ADD     R0, R5, R0                      ;= 4428
         ADD     R2, R6, R2                      ;= 4432
         IT      CS                              ;= bf28
-        ADDCS   R2, R4, R2                      ;= 18a2
+        ADDCS   R2, R4, R2                      ;= 4422  ; note: Rd repeats: folded to ADD Rd, Rm
         ADDS    R0, R0, R2                      ;= 1880
         ADDS    R3, R3, R6                      ;= 199b
         IT      LE                              ;= bfd8
@@ -152,7 +152,7 @@
         MOV     R1, R7                          ;= 4639
         MOV     R4, R6                          ;= 4634
         IT      GT                              ;= bfc8
-        MOVGT   R7, R5                          ;= 462f
+        MOVGT   R7, R5                          ;= 1c2f  ; note: ADD Rd, Rm, #0 inside the block
         CMP     R4, R2                          ;= 4294
         CMP     R7, R0                          ;= 4287
         IT      CS                              ;= bf28

@@ -6,11 +6,11 @@
         ADD     R2, R2, R0                      ;= 4402
         ADD     R5, R5, R6                      ;= 4435
         IT      EQ                              ;= bf08
-        ADDEQ   R0, R0, R3                      ;= 18c0
+        ADDEQ   R0, R0, R3                      ;= 4418  ; note: Rd repeats: folded to ADD Rd, Rm
         ADD     R3, R5, R3                      ;= 442b
         ADD     R5, R0, R5                      ;= 4405
         IT      VS                              ;= bf68
-        ADDVS   R0, R7, R0                      ;= 1838
+        ADDVS   R0, R7, R0                      ;= 4438  ; note: Rd repeats: folded to ADD Rd, Rm
         ADDS    R6, R6, R3                      ;= 18f6
         ADDS    R5, R5, R3                      ;= 18ed
         IT      GT                              ;= bfc8
@@ -152,7 +152,7 @@
         MOV     R4, R6                          ;= 4634
         MOV     R5, R1                          ;= 460d
         IT      LT                              ;= bfb8
-        MOVLT   R4, R1                          ;= 460c
+        MOVLT   R4, R1                          ;= 1c0c  ; note: ADD Rd, Rm, #0 inside the block
         CMP     R3, R0                          ;= 4283
         CMP     R6, R1                          ;= 428e
         IT      LT                              ;= bfb8

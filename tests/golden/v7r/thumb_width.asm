@@ -6,11 +6,11 @@
         ADD     R5, R5, R6                      ;= 4435
         ADD     R3, R3, R6                      ;= 4433
         IT      GT                              ;= bfc8
-        ADDGT   R2, R2, R0                      ;= 1812
+        ADDGT   R2, R2, R0                      ;= 4402  ; note: Rd repeats: folded to ADD Rd, Rm
         ADD     R1, R6, R1                      ;= 4431
         ADD     R5, R1, R5                      ;= 440d
         IT      HI                              ;= bf88
-        ADDHI   R5, R6, R5                      ;= 1975
+        ADDHI   R5, R6, R5                      ;= 4435  ; note: Rd repeats: folded to ADD Rd, Rm
         ADDS    R7, R7, R5                      ;= 197f
         ADDS    R7, R7, R4                      ;= 193f
         IT      VS                              ;= bf68
@@ -152,7 +152,7 @@
         MOV     R0, R1                          ;= 4608
         MOV     R0, R6                          ;= 4630
         IT      CS                              ;= bf28
-        MOVCS   R6, R2                          ;= 4616
+        MOVCS   R6, R2                          ;= 1c16  ; note: ADD Rd, Rm, #0 inside the block
         CMP     R4, R1                          ;= 428c
         CMP     R0, R3                          ;= 4298
         IT      GT                              ;= bfc8

@@ -6,11 +6,11 @@
         ADD     R7, R7, R6                      ;= 4437
         ADD     R5, R5, R7                      ;= 443d
         IT      NE                              ;= bf18
-        ADDNE   R2, R2, R6                      ;= 1992
+        ADDNE   R2, R2, R6                      ;= 4432  ; note: Rd repeats: folded to ADD Rd, Rm
         ADD     R4, R1, R4                      ;= 440c
         ADD     R4, R0, R4                      ;= 4404
         IT      GT                              ;= bfc8
-        ADDGT   R1, R4, R1                      ;= 1861
+        ADDGT   R1, R4, R1                      ;= 4421  ; note: Rd repeats: folded to ADD Rd, Rm
         ADDS    R0, R0, R2                      ;= 1880
         ADDS    R4, R4, R5                      ;= 1964
         IT      MI                              ;= bf48
@@ -152,7 +152,7 @@
         MOV     R5, R0                          ;= 4605
         MOV     R2, R4                          ;= 4622
         IT      HI                              ;= bf88
-        MOVHI   R2, R4                          ;= 4622
+        MOVHI   R2, R4                          ;= 1c22  ; note: ADD Rd, Rm, #0 inside the block
         CMP     R7, R2                          ;= 4297
         CMP     R0, R1                          ;= 4288
         IT      NE                              ;= bf18
