@@ -11,7 +11,7 @@ CONDS16 = ['EQ', 'NE', 'CS', 'CC', 'MI', 'PL', 'VS', 'VC', 'HI', 'LS', 'GE', 'LT
 
 def _n(a, text, ref=None, note=None, follow=None):
     """The line, and on Thumb-2 its `.N` twin too."""
-    out = [E(text, ref, note, follow=follow)]
+    out = [E(text, ref, note, follow=IMM3_T2 if a.t2 and follow is IMM3 else follow)]
     if a.t2:
         m, _, ops = text.partition(' ')
         rm, _, rops = (ref or text).partition(' ')
@@ -21,6 +21,9 @@ def _n(a, text, ref=None, note=None, follow=None):
 
 # Where the references differ, this assembler's choices.
 IMM3 = ('gnu', 'Rd repeats: the two-operand form with its eight-bit field')
+# On Thumb-2 an unsuffixed line keeps its three operands (two are filled in to
+# three): the width trial finds the three-bit form first.
+IMM3_T2 = ('llvm', 'three operands: the three-bit form')
 ADD_HI = ('llvm', 'two registers: the high-register form of ADD')
 
 
@@ -46,6 +49,13 @@ def arith(a):
         out += _n(a, '%s %s, %s, #%d' % (op, d, d, 3), follow=IMM3)
         for imm in [0, 1, 8, 100, 127, 128, 200, 254, 255]:
             d = a.regs(1, LOW)[0]
+            if a.t2 and imm < 8:
+                # Filled in to Rd, Rd, #imm: the three-bit form.
+                rd = int(d[1:])
+                want = '%04x' % ((0x1C00 if op == 'ADDS' else 0x1E00) | imm << 6 | rd << 3 | rd)
+                out.append(E('%s %s, #%d' % (op, d, imm), want=want, note='filled in to three operands: the three-bit form'))
+                out.append(E('%s.N %s, #%d' % (op, d, imm), '%s.n %s, #%d' % (low(op), d, imm)))
+                continue
             out += _n(a, '%s %s, #%d' % (op, d, imm))
     # A negative immediate swaps ADD and SUB in the eight-bit form.
     for op, other in [('ADDS', 'SUBS'), ('SUBS', 'ADDS')]:

@@ -2,7 +2,7 @@
 width the assembler chooses for unsuffixed lines, IT blocks, multiplies,
 media instructions, branches and system instructions."""
 from entries import E, low
-from fam_thumb import ADD_HI, CONDS16, IMM3, it_wrap
+from fam_thumb import ADD_HI, CONDS16, IMM3_T2, it_wrap
 
 # Registers of the data-processing forms: SP and PC have forms of their own.
 GP = [r for r in range(15) if r != 13]
@@ -83,7 +83,7 @@ def dp(a):
     for k in ['0x101', '0x1234', '0xFFFF', '4095', '0x8001']:
         d = _r(a, 1)[0]
         out.append(E('MOV %s, #%s' % (d, k), 'movw %s, #%s' % (d, k), 'becomes MOVW'))
-    for k in ['0x101', '0x123', '4095', '1000', '0xFFF']:
+    for k in ['0x101', '0x123', '4095', '1001', '0xFFF']:
         d, n = _r(a, 2)
         out.append(E('ADD %s, %s, #%s' % (d, n, k), 'addw %s, %s, #%s' % (d, n, k), 'becomes ADDW'))
         d, n = _r(a, 2)
@@ -174,7 +174,7 @@ def _cond_ref(t, regs, c):
 
 
 WIDTH_FOLLOW = {'ADD {0}, {1}': ADD_HI, 'ADD {0}, {0}, {1}': ADD_HI, 'ADD {0}, {1}, {0}': ADD_HI,
-                'ADD {0}, {0}, #1': IMM3}
+                'ADD {0}, {0}, #1': IMM3_T2}
 
 
 def _hi_add(d, m):
@@ -228,7 +228,7 @@ IT_BODY = ['ADD{c} R0, R1, R2', 'MOV{c} R3, #7', 'LDR{c} R0, [R1, #4]', 'ADD{c}.
            'ORRS{c}.W R4, R5, #1', 'LDR{c} R9, [R10, #-4]', 'MOV{c} R8, R1', 'SUB{c} R5, R6, #1',
            'MUL{c} R1, R2, R1', 'STRB{c} R7, [R6, R5]', 'ADD{c} R3, R3, R12', 'EOR{c} R1, R1, R2', 'NOP{c}']
 IT_LAST = ['B{c} 8', 'BX{c} LR', 'B{c}.W 0x1000', 'BL{c} 256', 'POP{c} {{R4, PC}}', 'MOV{c} PC, LR', 'BLX{c} R3',
-           'LDR{c} PC, [SP], #4']
+           'LDR{c} PC, [R0, #4]']
 
 
 def _body_ref(t, c):

@@ -33,13 +33,13 @@ def ldst(a):
         t, n = a.regs(2, range(8, 13))
         out.append(E('%s %s, [%s]' % (op, t, n)))
         if op.startswith('LDR'):
-            for off in [0, 4, 1020, 4095, -4, -4095]:
+            for off in [0, 4, 1020, 4095, -4, -255]:
                 t = a.regs(1, GP)[0]
                 out.append(E('%s %s, [PC, #%d]' % (op, t, off)))
     for off in [0, 4, 255, 1020, 4092]:
         out.append(E('LDR R9, [SP, #%d]' % off))
         out.append(E('STR R10, [SP, #%d]' % off))
-    out += [E('LDR PC, [R0, #4]'), E('LDR PC, [SP], #4'), E('LDR.W R0, [SP, #-4]!'), E('STR R0, [SP, #-4]!'),
+    out += [E('LDR PC, [R0, #4]'), E('LDR.W R0, [SP, #-4]!'), E('STR R0, [SP, #-4]!'),
             E('LDR.W PC, [R1, R2, LSL #2]')]
     for op in ['LDRT', 'STRT', 'LDRBT', 'STRBT', 'LDRHT', 'STRHT', 'LDRSBT', 'LDRSHT']:
         for off in [0, 1, 255]:
@@ -148,7 +148,8 @@ def branch_label(a):
 
 def czb(a):
     """CBZ and CBNZ with labels at every distance they reach."""
-    out = [E('CBZ R0, z0'), lab('z0'), E('CBNZ R7, z1'), lab('z1'), E('MOVS R6, #6')]
+    out = [E('CBZ R0, z0'), E('MOVS R6, #6'), lab('z0'), E('CBNZ R7, z1'), E('MOVS R6, #6'), lab('z1'),
+           E('MOVS R6, #6')]
     for i in range(8):
         out.append(E('CBZ R%d, t%d' % (i, i)))
         out.append(E('CBNZ R%d, t%d' % (7 - i, i)))

@@ -113,7 +113,7 @@ def branch(a):
         for n in [0, 4, -4, 0x1000, 0xFFFFFC, -0x1000000]:
             out.append(E('BLX %d' % n, 'blx {blx:%d}' % n))
         out += [E('BXJ R0'), E('BXJ R14'), E('BXJ R8')]
-    out += [E('CRET 8', 'b {br:8}', 'CRET is a B'), E('CRET.W 0x2000', 'b.w {br:8192}', 'CRET is a B')]
+    out += [E('CRET 8', 'b.w {br:8}', 'CRET is a B, always wide'), E('CRET.W 0x2000', 'b.w {br:8192}', 'CRET is a B')]
     return out
 
 

@@ -120,5 +120,5 @@
         BXJ     R0                              ;= f3c0 8f00
         BXJ     R14                             ;= f3ce 8f00
         BXJ     R8                              ;= f3c8 8f00
-        CRET    8                               ;= e004  ; note: CRET is a B
+        CRET    8                               ;= f000 b804  ; note: CRET is a B, always wide
         CRET.W  0x2000                          ;= f002 b800  ; note: CRET is a B

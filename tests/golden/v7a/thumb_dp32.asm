@@ -918,8 +918,8 @@
         SUB     R4, R8, #0x123                  ;= f2a8 1423  ; note: becomes SUBW
         ADD     R1, R14, #4095                  ;= f60e 71ff  ; note: becomes ADDW
         SUB     R2, R3, #4095                   ;= f6a3 72ff  ; note: becomes SUBW
-        ADD     R10, R6, #1000                  ;= f206 3ae8  ; note: becomes ADDW
-        SUB     R10, R6, #1000                  ;= f2a6 3ae8  ; note: becomes SUBW
+        ADD     R10, R6, #1001                  ;= f206 3ae9  ; note: becomes ADDW
+        SUB     R10, R6, #1001                  ;= f2a6 3ae9  ; note: becomes SUBW
         ADD     R7, R5, #0xFFF                  ;= f605 77ff  ; note: becomes ADDW
         SUB     R11, R8, #0xFFF                 ;= f6a8 7bff  ; note: becomes SUBW
         ADDW    R1, R11, #0                     ;= f20b 0100

@@ -222,7 +222,7 @@
         LDRCC   R0, [R1, #4]                    ;= 6848
         ADDCC.W R8, R9, #0x100                  ;= f509 7880
         CMPCS   R0, #3                          ;= 2803
-        LDRCC   PC, [SP], #4                    ;= f85d fb04
+        LDRCC   PC, [R0, #4]                    ;= f8d0 f004
         ITTEE   CC                              ;= bf39
         LSLCC   R1, R2, #3                      ;= 00d1
         ANDCC   R0, R0, R1                      ;= 4008
@@ -253,7 +253,7 @@
         MVNCC   R2, R3                          ;= 43da
         ORRSCS.W R4, R5, #1                     ;= f055 0401
         LDRCS   R9, [R10, #-4]                  ;= f85a 9c04
-        LDRCC   PC, [SP], #4                    ;= f85d fb04
+        LDRCC   PC, [R0, #4]                    ;= f8d0 f004
         ITEEE   CC                              ;= bf31
         SUBCC   R5, R6, #1                      ;= 1e75
         MULCS   R1, R2, R1                      ;= 4351
@@ -327,7 +327,7 @@
         MOVPL   R8, R1                          ;= 4688
         ITT     PL                              ;= bf5c
         SUBPL   R5, R6, #1                      ;= 1e75
-        LDRPL   PC, [SP], #4                    ;= f85d fb04
+        LDRPL   PC, [R0, #4]                    ;= f8d0 f004
         ITTT    PL                              ;= bf5e
         STRBPL  R7, [R6, R5]                    ;= 5577
         ADDPL   R3, R3, R12                     ;= 4463
@@ -358,7 +358,7 @@
         NOPMI                                   ;= bf00
         ITE     PL                              ;= bf54
         ADDPL   R0, R1, R2                      ;= 1888
-        LDRMI   PC, [SP], #4                    ;= f85d fb04
+        LDRMI   PC, [R0, #4]                    ;= f8d0 f004
         ITET    PL                              ;= bf56
         LDRPL   R0, [R1, #4]                    ;= 6848
         ADDMI.W R8, R9, #0x100                  ;= f509 7880
@@ -400,7 +400,7 @@
         SUBVS   R5, R6, #1                      ;= 1e75
         MULVS   R1, R2, R1                      ;= 4351
         STRBVS  R7, [R6, R5]                    ;= 5577
-        LDRVS   PC, [SP], #4                    ;= f85d fb04
+        LDRVS   PC, [R0, #4]                    ;= f8d0 f004
         ITTTE   VS                              ;= bf63
         EORVS   R1, R1, R2                      ;= 4051
         NOPVS                                   ;= bf00
@@ -431,7 +431,7 @@
         ADDVS   R0, R1, R2                      ;= 1888
         MOVVC   R3, #7                          ;= 2307
         LDRVS   R0, [R1, #4]                    ;= 6848
-        LDRVS   PC, [SP], #4                    ;= f85d fb04
+        LDRVS   PC, [R0, #4]                    ;= f8d0 f004
         ITETE   VS                              ;= bf6b
         CMPVS   R0, #3                          ;= 2803
         STRVC   R2, [SP, #8]                    ;= 9202
@@ -473,7 +473,7 @@
         ITTE    VC                              ;= bf7a
         ADDVC   R3, R3, R12                     ;= 4463
         EORVC   R1, R1, R2                      ;= 4051
-        LDRVS   PC, [SP], #4                    ;= f85d fb04
+        LDRVS   PC, [R0, #4]                    ;= f8d0 f004
         ITTET   VC                              ;= bf7b
         ADDVC   R0, R1, R2                      ;= 1888
         MOVVC   R3, #7                          ;= 2307
@@ -504,7 +504,7 @@
         ITEE    VC                              ;= bf72
         ADDVC.W R8, R9, #0x100                  ;= f509 7880
         CMPVS   R0, #3                          ;= 2803
-        LDRVS   PC, [SP], #4                    ;= f85d fb04
+        LDRVS   PC, [R0, #4]                    ;= f8d0 f004
         ITEET   VC                              ;= bf73
         LSLVC   R1, R2, #3                      ;= 00d1
         ANDVS   R0, R0, R1                      ;= 4008
@@ -651,7 +651,7 @@
         ITTT    GE                              ;= bfa2
         ANDGE   R0, R0, R1                      ;= 4008
         MVNGE   R2, R3                          ;= 43da
-        LDRGE   PC, [SP], #4                    ;= f85d fb04
+        LDRGE   PC, [R0, #4]                    ;= f8d0 f004
         ITTTT   GE                              ;= bfa1
         LDRGE   R9, [R10, #-4]                  ;= f85a 9c04
         MOVGE   R8, R1                          ;= 4688
@@ -682,7 +682,7 @@
         ITET    GE                              ;= bfaa
         MULGE   R1, R2, R1                      ;= 4351
         STRBLT  R7, [R6, R5]                    ;= 5577
-        LDRGE   PC, [SP], #4                    ;= f85d fb04
+        LDRGE   PC, [R0, #4]                    ;= f8d0 f004
         ITETT   GE                              ;= bfa9
         EORGE   R1, R1, R2                      ;= 4051
         NOPLT                                   ;= bf00

@@ -43,7 +43,7 @@
         LDR     R14, [PC, #1020]                ;= f8df e3fc
         LDR     R11, [PC, #4095]                ;= f8df bfff
         LDR     R5, [PC, #-4]                   ;= f85f 5004
-        LDR     R2, [PC, #-4095]                ;= f85f 2fff
+        LDR     R2, [PC, #-255]                 ;= f85f 20ff
         STR     R4, [R12, #0]                   ;= f8cc 4000
         STR.W   R5, [R3, #0]                    ;= f8c3 5000
         STR     R2, [R6, #1]                    ;= f8c6 2001
@@ -119,7 +119,7 @@
         LDRB    R5, [PC, #1020]                 ;= f89f 53fc
         LDRB    R7, [PC, #4095]                 ;= f89f 7fff
         LDRB    R6, [PC, #-4]                   ;= f81f 6004
-        LDRB    R12, [PC, #-4095]               ;= f81f cfff
+        LDRB    R12, [PC, #-255]                ;= f81f c0ff
         STRB    R10, [R1, #0]                   ;= f881 a000
         STRB.W  R4, [R6, #0]                    ;= f886 4000
         STRB    R0, [R2, #1]                    ;= 7050
@@ -195,7 +195,7 @@
         LDRH    R11, [PC, #1020]                ;= f8bf b3fc
         LDRH    R7, [PC, #4095]                 ;= f8bf 7fff
         LDRH    R11, [PC, #-4]                  ;= f83f b004
-        LDRH    R14, [PC, #-4095]               ;= f83f efff
+        LDRH    R14, [PC, #-255]                ;= f83f e0ff
         STRH    R6, [R5, #0]                    ;= 802e
         STRH.W  R3, [R7, #0]                    ;= f8a7 3000
         STRH    R2, [R10, #1]                   ;= f8aa 2001
@@ -271,7 +271,7 @@
         LDRSB   R9, [PC, #1020]                 ;= f99f 93fc
         LDRSB   R9, [PC, #4095]                 ;= f99f 9fff
         LDRSB   R1, [PC, #-4]                   ;= f91f 1004
-        LDRSB   R1, [PC, #-4095]                ;= f91f 1fff
+        LDRSB   R1, [PC, #-255]                 ;= f91f 10ff
         LDRSH   R9, [R1, #0]                    ;= f9b1 9000
         LDRSH.W R2, [R5, #0]                    ;= f9b5 2000
         LDRSH   R10, [R9, #1]                   ;= f9b9 a001
@@ -312,7 +312,7 @@
         LDRSH   R5, [PC, #1020]                 ;= f9bf 53fc
         LDRSH   R9, [PC, #4095]                 ;= f9bf 9fff
         LDRSH   R12, [PC, #-4]                  ;= f93f c004
-        LDRSH   R4, [PC, #-4095]                ;= f93f 4fff
+        LDRSH   R4, [PC, #-255]                 ;= f93f 40ff
         LDR     R9, [SP, #0]                    ;= f8dd 9000
         STR     R10, [SP, #0]                   ;= f8cd a000
         LDR     R9, [SP, #4]                    ;= f8dd 9004
@@ -324,7 +324,6 @@
         LDR     R9, [SP, #4092]                 ;= f8dd 9ffc
         STR     R10, [SP, #4092]                ;= f8cd affc
         LDR     PC, [R0, #4]                    ;= f8d0 f004
-        LDR     PC, [SP], #4                    ;= f85d fb04
         LDR.W   R0, [SP, #-4]!                  ;= f85d 0d04
         STR     R0, [SP, #-4]!                  ;= f84d 0d04
         LDR.W   PC, [R1, R2, LSL #2]            ;= f851 f022

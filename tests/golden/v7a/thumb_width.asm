@@ -34,7 +34,7 @@
         ADD     R6, R6, #1                      ;= f106 0601
         ADD     R4, R4, #1                      ;= f104 0401
         IT      GE                              ;= bfa8
-        ADDGE   R0, R0, #1                      ;= 3001  ; note: Rd repeats: the two-operand form with its eight-bit field
+        ADDGE   R0, R0, #1                      ;= 1c40  ; note: three operands: the three-bit form
         ADDS    R1, R1, #200                    ;= 31c8
         ADDS    R2, R2, #200                    ;= 32c8
         IT      LS                              ;= bf98

@@ -3,9 +3,11 @@
 ; RUN: %s %o -v7M4
 ; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
-        CBZ     R0, z0                          ;= bf00
+        CBZ     R0, z0                          ;= b100
+        MOVS    R6, #6                          ;= 2606
 z0
-        CBNZ    R7, z1                          ;= bf00
+        CBNZ    R7, z1                          ;= b907
+        MOVS    R6, #6                          ;= 2606
 z1
         MOVS    R6, #6                          ;= 2606
         CBZ     R0, t0                          ;= b108

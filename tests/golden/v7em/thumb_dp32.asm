@@ -918,8 +918,8 @@
         SUB     R7, R4, #0x123                  ;= f2a4 1723  ; note: becomes SUBW
         ADD     R11, R2, #4095                  ;= f602 7bff  ; note: becomes ADDW
         SUB     R8, R2, #4095                   ;= f6a2 78ff  ; note: becomes SUBW
-        ADD     R4, R6, #1000                   ;= f206 34e8  ; note: becomes ADDW
-        SUB     R1, R7, #1000                   ;= f2a7 31e8  ; note: becomes SUBW
+        ADD     R4, R6, #1001                   ;= f206 34e9  ; note: becomes ADDW
+        SUB     R1, R7, #1001                   ;= f2a7 31e9  ; note: becomes SUBW
         ADD     R5, R11, #0xFFF                 ;= f60b 75ff  ; note: becomes ADDW
         SUB     R6, R5, #0xFFF                  ;= f6a5 76ff  ; note: becomes SUBW
         ADDW    R11, R6, #0                     ;= f206 0b00

@@ -43,7 +43,7 @@
         LDR     R4, [PC, #1020]                 ;= 4cff
         LDR     R10, [PC, #4095]                ;= f8df afff
         LDR     R5, [PC, #-4]                   ;= f85f 5004
-        LDR     R4, [PC, #-4095]                ;= f85f 4fff
+        LDR     R4, [PC, #-255]                 ;= f85f 40ff
         STR     R7, [R9, #0]                    ;= f8c9 7000
         STR.W   R0, [R7, #0]                    ;= f8c7 0000
         STR     R3, [R1, #1]                    ;= f8c1 3001
@@ -119,7 +119,7 @@
         LDRB    R8, [PC, #1020]                 ;= f89f 83fc
         LDRB    R8, [PC, #4095]                 ;= f89f 8fff
         LDRB    R9, [PC, #-4]                   ;= f81f 9004
-        LDRB    R12, [PC, #-4095]               ;= f81f cfff
+        LDRB    R12, [PC, #-255]                ;= f81f c0ff
         STRB    R9, [R12, #0]                   ;= f88c 9000
         STRB.W  R6, [R2, #0]                    ;= f882 6000
         STRB    R5, [R0, #1]                    ;= 7045
@@ -195,7 +195,7 @@
         LDRH    R3, [PC, #1020]                 ;= f8bf 33fc
         LDRH    R1, [PC, #4095]                 ;= f8bf 1fff
         LDRH    R6, [PC, #-4]                   ;= f83f 6004
-        LDRH    R11, [PC, #-4095]               ;= f83f bfff
+        LDRH    R11, [PC, #-255]                ;= f83f b0ff
         STRH    R14, [R0, #0]                   ;= f8a0 e000
         STRH.W  R0, [R1, #0]                    ;= f8a1 0000
         STRH    R2, [R4, #1]                    ;= f8a4 2001
@@ -271,7 +271,7 @@
         LDRSB   R5, [PC, #1020]                 ;= f99f 53fc
         LDRSB   R0, [PC, #4095]                 ;= f99f 0fff
         LDRSB   R14, [PC, #-4]                  ;= f91f e004
-        LDRSB   R6, [PC, #-4095]                ;= f91f 6fff
+        LDRSB   R6, [PC, #-255]                 ;= f91f 60ff
         LDRSH   R1, [R8, #0]                    ;= f9b8 1000
         LDRSH.W R2, [R6, #0]                    ;= f9b6 2000
         LDRSH   R9, [R10, #1]                   ;= f9ba 9001
@@ -312,7 +312,7 @@
         LDRSH   R0, [PC, #1020]                 ;= f9bf 03fc
         LDRSH   R6, [PC, #4095]                 ;= f9bf 6fff
         LDRSH   R2, [PC, #-4]                   ;= f93f 2004
-        LDRSH   R0, [PC, #-4095]                ;= f93f 0fff
+        LDRSH   R0, [PC, #-255]                 ;= f93f 00ff
         LDR     R9, [SP, #0]                    ;= f8dd 9000
         STR     R10, [SP, #0]                   ;= f8cd a000
         LDR     R9, [SP, #4]                    ;= f8dd 9004
@@ -324,7 +324,6 @@
         LDR     R9, [SP, #4092]                 ;= f8dd 9ffc
         STR     R10, [SP, #4092]                ;= f8cd affc
         LDR     PC, [R0, #4]                    ;= f8d0 f004
-        LDR     PC, [SP], #4                    ;= f85d fb04
         LDR.W   R0, [SP, #-4]!                  ;= f85d 0d04
         STR     R0, [SP, #-4]!                  ;= f84d 0d04
         LDR.W   PC, [R1, R2, LSL #2]            ;= f851 f022

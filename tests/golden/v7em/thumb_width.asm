@@ -34,7 +34,7 @@
         ADD     R3, R3, #1                      ;= f103 0301
         ADD     R3, R3, #1                      ;= f103 0301
         IT      HI                              ;= bf88
-        ADDHI   R7, R7, #1                      ;= 3701  ; note: Rd repeats: the two-operand form with its eight-bit field
+        ADDHI   R7, R7, #1                      ;= 1c7f  ; note: three operands: the three-bit form
         ADDS    R3, R3, #200                    ;= 33c8
         ADDS    R1, R1, #200                    ;= 31c8
         IT      LE                              ;= bfd8

@@ -918,8 +918,8 @@
         SUB     R9, R12, #0x123                 ;= f2ac 1923  ; note: becomes SUBW
         ADD     R3, R1, #4095                   ;= f601 73ff  ; note: becomes ADDW
         SUB     R4, R0, #4095                   ;= f6a0 74ff  ; note: becomes SUBW
-        ADD     R0, R7, #1000                   ;= f207 30e8  ; note: becomes ADDW
-        SUB     R12, R3, #1000                  ;= f2a3 3ce8  ; note: becomes SUBW
+        ADD     R0, R7, #1001                   ;= f207 30e9  ; note: becomes ADDW
+        SUB     R12, R3, #1001                  ;= f2a3 3ce9  ; note: becomes SUBW
         ADD     R8, R5, #0xFFF                  ;= f605 78ff  ; note: becomes ADDW
         SUB     R9, R3, #0xFFF                  ;= f6a3 79ff  ; note: becomes SUBW
         ADDW    R1, R9, #0                      ;= f209 0100

@@ -43,7 +43,7 @@
         LDR     R12, [PC, #1020]                ;= f8df c3fc
         LDR     R4, [PC, #4095]                 ;= f8df 4fff
         LDR     R3, [PC, #-4]                   ;= f85f 3004
-        LDR     R0, [PC, #-4095]                ;= f85f 0fff
+        LDR     R0, [PC, #-255]                 ;= f85f 00ff
         STR     R3, [R2, #0]                    ;= 6013
         STR.W   R0, [R3, #0]                    ;= f8c3 0000
         STR     R2, [R4, #1]                    ;= f8c4 2001
@@ -119,7 +119,7 @@
         LDRB    R1, [PC, #1020]                 ;= f89f 13fc
         LDRB    R9, [PC, #4095]                 ;= f89f 9fff
         LDRB    R6, [PC, #-4]                   ;= f81f 6004
-        LDRB    R7, [PC, #-4095]                ;= f81f 7fff
+        LDRB    R7, [PC, #-255]                 ;= f81f 70ff
         STRB    R9, [R14, #0]                   ;= f88e 9000
         STRB.W  R2, [R0, #0]                    ;= f880 2000
         STRB    R11, [R5, #1]                   ;= f885 b001
@@ -195,7 +195,7 @@
         LDRH    R3, [PC, #1020]                 ;= f8bf 33fc
         LDRH    R1, [PC, #4095]                 ;= f8bf 1fff
         LDRH    R3, [PC, #-4]                   ;= f83f 3004
-        LDRH    R6, [PC, #-4095]                ;= f83f 6fff
+        LDRH    R6, [PC, #-255]                 ;= f83f 60ff
         STRH    R1, [R0, #0]                    ;= 8001
         STRH.W  R7, [R3, #0]                    ;= f8a3 7000
         STRH    R9, [R1, #1]                    ;= f8a1 9001
@@ -271,7 +271,7 @@
         LDRSB   R0, [PC, #1020]                 ;= f99f 03fc
         LDRSB   R3, [PC, #4095]                 ;= f99f 3fff
         LDRSB   R6, [PC, #-4]                   ;= f91f 6004
-        LDRSB   R6, [PC, #-4095]                ;= f91f 6fff
+        LDRSB   R6, [PC, #-255]                 ;= f91f 60ff
         LDRSH   R4, [R7, #0]                    ;= f9b7 4000
         LDRSH.W R6, [R3, #0]                    ;= f9b3 6000
         LDRSH   R9, [R10, #1]                   ;= f9ba 9001
@@ -312,7 +312,7 @@
         LDRSH   R10, [PC, #1020]                ;= f9bf a3fc
         LDRSH   R4, [PC, #4095]                 ;= f9bf 4fff
         LDRSH   R5, [PC, #-4]                   ;= f93f 5004
-        LDRSH   R1, [PC, #-4095]                ;= f93f 1fff
+        LDRSH   R1, [PC, #-255]                 ;= f93f 10ff
         LDR     R9, [SP, #0]                    ;= f8dd 9000
         STR     R10, [SP, #0]                   ;= f8cd a000
         LDR     R9, [SP, #4]                    ;= f8dd 9004
@@ -324,7 +324,6 @@
         LDR     R9, [SP, #4092]                 ;= f8dd 9ffc
         STR     R10, [SP, #4092]                ;= f8cd affc
         LDR     PC, [R0, #4]                    ;= f8d0 f004
-        LDR     PC, [SP], #4                    ;= f85d fb04
         LDR.W   R0, [SP, #-4]!                  ;= f85d 0d04
         STR     R0, [SP, #-4]!                  ;= f84d 0d04
         LDR.W   PC, [R1, R2, LSL #2]            ;= f851 f022

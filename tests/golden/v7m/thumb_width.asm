@@ -34,7 +34,7 @@
         ADD     R7, R7, #1                      ;= f107 0701
         ADD     R0, R0, #1                      ;= f100 0001
         IT      VS                              ;= bf68
-        ADDVS   R5, R5, #1                      ;= 3501  ; note: Rd repeats: the two-operand form with its eight-bit field
+        ADDVS   R5, R5, #1                      ;= 1c6d  ; note: three operands: the three-bit form
         ADDS    R0, R0, #200                    ;= 30c8
         ADDS    R0, R0, #200                    ;= 30c8
         IT      EQ                              ;= bf08

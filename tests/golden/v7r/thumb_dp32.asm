@@ -918,8 +918,8 @@
         SUB     R6, R5, #0x123                  ;= f2a5 1623  ; note: becomes SUBW
         ADD     R7, R0, #4095                   ;= f600 77ff  ; note: becomes ADDW
         SUB     R10, R3, #4095                  ;= f6a3 7aff  ; note: becomes SUBW
-        ADD     R2, R1, #1000                   ;= f201 32e8  ; note: becomes ADDW
-        SUB     R6, R8, #1000                   ;= f2a8 36e8  ; note: becomes SUBW
+        ADD     R2, R1, #1001                   ;= f201 32e9  ; note: becomes ADDW
+        SUB     R6, R8, #1001                   ;= f2a8 36e9  ; note: becomes SUBW
         ADD     R5, R6, #0xFFF                  ;= f606 75ff  ; note: becomes ADDW
         SUB     R3, R6, #0xFFF                  ;= f6a6 73ff  ; note: becomes SUBW
         ADDW    R12, R1, #0                     ;= f201 0c00

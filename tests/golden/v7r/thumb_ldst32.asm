@@ -43,7 +43,7 @@
         LDR     R9, [PC, #1020]                 ;= f8df 93fc
         LDR     R11, [PC, #4095]                ;= f8df bfff
         LDR     R12, [PC, #-4]                  ;= f85f c004
-        LDR     R7, [PC, #-4095]                ;= f85f 7fff
+        LDR     R7, [PC, #-255]                 ;= f85f 70ff
         STR     R11, [R8, #0]                   ;= f8c8 b000
         STR.W   R1, [R6, #0]                    ;= f8c6 1000
         STR     R4, [R0, #1]                    ;= f8c0 4001
@@ -119,7 +119,7 @@
         LDRB    R2, [PC, #1020]                 ;= f89f 23fc
         LDRB    R1, [PC, #4095]                 ;= f89f 1fff
         LDRB    R5, [PC, #-4]                   ;= f81f 5004
-        LDRB    R3, [PC, #-4095]                ;= f81f 3fff
+        LDRB    R3, [PC, #-255]                 ;= f81f 30ff
         STRB    R2, [R4, #0]                    ;= 7022
         STRB.W  R7, [R4, #0]                    ;= f884 7000
         STRB    R9, [R1, #1]                    ;= f881 9001
@@ -195,7 +195,7 @@
         LDRH    R8, [PC, #1020]                 ;= f8bf 83fc
         LDRH    R6, [PC, #4095]                 ;= f8bf 6fff
         LDRH    R0, [PC, #-4]                   ;= f83f 0004
-        LDRH    R8, [PC, #-4095]                ;= f83f 8fff
+        LDRH    R8, [PC, #-255]                 ;= f83f 80ff
         STRH    R7, [R9, #0]                    ;= f8a9 7000
         STRH.W  R1, [R0, #0]                    ;= f8a0 1000
         STRH    R7, [R1, #1]                    ;= f8a1 7001
@@ -271,7 +271,7 @@
         LDRSB   R11, [PC, #1020]                ;= f99f b3fc
         LDRSB   R7, [PC, #4095]                 ;= f99f 7fff
         LDRSB   R0, [PC, #-4]                   ;= f91f 0004
-        LDRSB   R12, [PC, #-4095]               ;= f91f cfff
+        LDRSB   R12, [PC, #-255]                ;= f91f c0ff
         LDRSH   R9, [R8, #0]                    ;= f9b8 9000
         LDRSH.W R4, [R0, #0]                    ;= f9b0 4000
         LDRSH   R3, [R8, #1]                    ;= f9b8 3001
@@ -312,7 +312,7 @@
         LDRSH   R12, [PC, #1020]                ;= f9bf c3fc
         LDRSH   R11, [PC, #4095]                ;= f9bf bfff
         LDRSH   R5, [PC, #-4]                   ;= f93f 5004
-        LDRSH   R2, [PC, #-4095]                ;= f93f 2fff
+        LDRSH   R2, [PC, #-255]                 ;= f93f 20ff
         LDR     R9, [SP, #0]                    ;= f8dd 9000
         STR     R10, [SP, #0]                   ;= f8cd a000
         LDR     R9, [SP, #4]                    ;= f8dd 9004
@@ -324,7 +324,6 @@
         LDR     R9, [SP, #4092]                 ;= f8dd 9ffc
         STR     R10, [SP, #4092]                ;= f8cd affc
         LDR     PC, [R0, #4]                    ;= f8d0 f004
-        LDR     PC, [SP], #4                    ;= f85d fb04
         LDR.W   R0, [SP, #-4]!                  ;= f85d 0d04
         STR     R0, [SP, #-4]!                  ;= f84d 0d04
         LDR.W   PC, [R1, R2, LSL #2]            ;= f851 f022

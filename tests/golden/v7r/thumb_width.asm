@@ -34,7 +34,7 @@
         ADD     R7, R7, #1                      ;= f107 0701
         ADD     R6, R6, #1                      ;= f106 0601
         IT      CS                              ;= bf28
-        ADDCS   R2, R2, #1                      ;= 3201  ; note: Rd repeats: the two-operand form with its eight-bit field
+        ADDCS   R2, R2, #1                      ;= 1c52  ; note: three operands: the three-bit form
         ADDS    R4, R4, #200                    ;= 34c8
         ADDS    R4, R4, #200                    ;= 34c8
         IT      LS                              ;= bf98

@@ -111,5 +111,5 @@
         BLE.W   1048574                         ;= f37f afff
         BLE.W   -1048576                        ;= f740 8000
         BLE     4122                            ;= f341 800d
-        CRET    8                               ;= e004  ; note: CRET is a B
+        CRET    8                               ;= f000 b804  ; note: CRET is a B, always wide
         CRET.W  0x2000                          ;= f002 b800  ; note: CRET is a B

@@ -918,8 +918,8 @@
         SUB     R1, R0, #0x123                  ;= f2a0 1123  ; note: becomes SUBW
         ADD     R9, R6, #4095                   ;= f606 79ff  ; note: becomes ADDW
         SUB     R6, R8, #4095                   ;= f6a8 76ff  ; note: becomes SUBW
-        ADD     R14, R2, #1000                  ;= f202 3ee8  ; note: becomes ADDW
-        SUB     R8, R6, #1000                   ;= f2a6 38e8  ; note: becomes SUBW
+        ADD     R14, R2, #1001                  ;= f202 3ee9  ; note: becomes ADDW
+        SUB     R8, R6, #1001                   ;= f2a6 38e9  ; note: becomes SUBW
         ADD     R14, R7, #0xFFF                 ;= f607 7eff  ; note: becomes ADDW
         SUB     R4, R10, #0xFFF                 ;= f6aa 74ff  ; note: becomes SUBW
         ADDW    R4, R5, #0                      ;= f205 0400

@@ -43,7 +43,7 @@
         LDR     R8, [PC, #1020]                 ;= f8df 83fc
         LDR     R9, [PC, #4095]                 ;= f8df 9fff
         LDR     R3, [PC, #-4]                   ;= f85f 3004
-        LDR     R7, [PC, #-4095]                ;= f85f 7fff
+        LDR     R7, [PC, #-255]                 ;= f85f 70ff
         STR     R1, [R0, #0]                    ;= 6001
         STR.W   R4, [R3, #0]                    ;= f8c3 4000
         STR     R3, [R12, #1]                   ;= f8cc 3001
@@ -119,7 +119,7 @@
         LDRB    R3, [PC, #1020]                 ;= f89f 33fc
         LDRB    R10, [PC, #4095]                ;= f89f afff
         LDRB    R9, [PC, #-4]                   ;= f81f 9004
-        LDRB    R6, [PC, #-4095]                ;= f81f 6fff
+        LDRB    R6, [PC, #-255]                 ;= f81f 60ff
         STRB    R1, [R9, #0]                    ;= f889 1000
         STRB.W  R7, [R0, #0]                    ;= f880 7000
         STRB    R14, [R6, #1]                   ;= f886 e001
@@ -195,7 +195,7 @@
         LDRH    R5, [PC, #1020]                 ;= f8bf 53fc
         LDRH    R10, [PC, #4095]                ;= f8bf afff
         LDRH    R0, [PC, #-4]                   ;= f83f 0004
-        LDRH    R11, [PC, #-4095]               ;= f83f bfff
+        LDRH    R11, [PC, #-255]                ;= f83f b0ff
         STRH    R1, [R11, #0]                   ;= f8ab 1000
         STRH.W  R2, [R0, #0]                    ;= f8a0 2000
         STRH    R6, [R11, #1]                   ;= f8ab 6001
@@ -271,7 +271,7 @@
         LDRSB   R2, [PC, #1020]                 ;= f99f 23fc
         LDRSB   R4, [PC, #4095]                 ;= f99f 4fff
         LDRSB   R12, [PC, #-4]                  ;= f91f c004
-        LDRSB   R6, [PC, #-4095]                ;= f91f 6fff
+        LDRSB   R6, [PC, #-255]                 ;= f91f 60ff
         LDRSH   R11, [R6, #0]                   ;= f9b6 b000
         LDRSH.W R6, [R2, #0]                    ;= f9b2 6000
         LDRSH   R3, [R1, #1]                    ;= f9b1 3001
@@ -312,7 +312,7 @@
         LDRSH   R2, [PC, #1020]                 ;= f9bf 23fc
         LDRSH   R9, [PC, #4095]                 ;= f9bf 9fff
         LDRSH   R1, [PC, #-4]                   ;= f93f 1004
-        LDRSH   R9, [PC, #-4095]                ;= f93f 9fff
+        LDRSH   R9, [PC, #-255]                 ;= f93f 90ff
         LDR     R9, [SP, #0]                    ;= f8dd 9000
         STR     R10, [SP, #0]                   ;= f8cd a000
         LDR     R9, [SP, #4]                    ;= f8dd 9004
@@ -324,7 +324,6 @@
         LDR     R9, [SP, #4092]                 ;= f8dd 9ffc
         STR     R10, [SP, #4092]                ;= f8cd affc
         LDR     PC, [R0, #4]                    ;= f8d0 f004
-        LDR     PC, [SP], #4                    ;= f85d fb04
         LDR.W   R0, [SP, #-4]!                  ;= f85d 0d04
         STR     R0, [SP, #-4]!                  ;= f84d 0d04
         LDR.W   PC, [R1, R2, LSL #2]            ;= f851 f022

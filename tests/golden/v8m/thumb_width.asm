@@ -34,7 +34,7 @@
         ADD     R1, R1, #1                      ;= f101 0101
         ADD     R6, R6, #1                      ;= f106 0601
         IT      GT                              ;= bfc8
-        ADDGT   R5, R5, #1                      ;= 3501  ; note: Rd repeats: the two-operand form with its eight-bit field
+        ADDGT   R5, R5, #1                      ;= 1c6d  ; note: three operands: the three-bit form
         ADDS    R6, R6, #200                    ;= 36c8
         ADDS    R0, R0, #200                    ;= 30c8
         IT      LT                              ;= bfb8
