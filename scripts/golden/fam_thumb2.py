@@ -159,10 +159,6 @@ WIDTH_HIGH = ['ADD {3}, {3}, {1}', 'ADDS {3}, {3}, {1}', 'ADD {3}, {1}', 'ADD {0
               'MOVS {0}, {3}', 'ADD {3}, {0}, {3}', 'SUBS {3}, {3}, #1', 'MVNS {3}, {0}']
 
 
-def _fill(t, regs):
-    return t.format(*regs)
-
-
 _S_OPS = {'ADD', 'SUB', 'AND', 'EOR', 'ORR', 'ADC', 'SBC', 'MUL', 'MVN', 'MOV', 'LSL', 'LSR', 'ASR', 'ROR', 'NEG',
           'RSB'}
 
@@ -197,7 +193,7 @@ def width(a):
         f = WIDTH_FOLLOW.get(t)
         for _ in range(2):
             regs = _r(a, 3, range(8)) + _r(a, 1, range(8, 13))
-            out.append(E(_fill(t, regs), follow=f))
+            out.append(E(t.format(*regs), follow=f))
         if t.startswith('MULS') or t.startswith('NEGS'):
             continue  # a flag-setting line of 16 bits only: not inside a block
         regs = _r(a, 3, range(8)) + _r(a, 1, range(8, 13))
