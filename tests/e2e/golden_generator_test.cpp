@@ -21,13 +21,29 @@ class GoldenGenerator : public ZqDirFixture {
   const std::string scripts_ = "'" + (fs::path(ZQ_SOURCE_DIR) / "scripts" / "golden").string() + "'";
 };
 
-// The files of the architecture folders, relative to `root`.
-std::vector<std::string> generated_files(const fs::path &root) {
+// Files of the architecture folders that scripts/golden/<name>/gen.py writes
+// carry the prefix "<name>_" (and say which generator wrote them); the others
+// are gen.py's own.
+constexpr const char *SUB_GENERATORS[] = {"t2mem", "t2dp"};
+
+// The files of the architecture folders, relative to `root`: those of the
+// sub-generator `sub`, or with none, those of gen.py.
+std::vector<std::string> generated_files(const fs::path &root, const std::string &sub = "") {
   std::vector<std::string> out;
   if (!fs::exists(root)) return out;
   for (const auto &e : fs::recursive_directory_iterator(root)) {
     const std::string rel = fs::relative(e.path(), root).string();
-    if (e.is_regular_file() && rel.starts_with("v")) out.push_back(rel);
+    if (!e.is_regular_file() || !rel.starts_with("v")) continue;
+    const std::string name = e.path().filename().string();
+    if (!sub.empty()) {
+      if (name.starts_with(sub + "_")) out.push_back(rel);
+      continue;
+    }
+    const std::string text = slurp(e.path());
+    if (text.find("Written by scripts/golden/") != std::string::npos &&
+        text.find("Written by scripts/golden/gen.py") == std::string::npos)
+      continue;
+    out.push_back(rel);
   }
   std::sort(out.begin(), out.end());
   return out;
@@ -47,6 +63,33 @@ TEST_F(GoldenGenerator, CorpusIsTheGeneratorsOutput) {
   for (const std::string &f : made)
     EXPECT_TRUE(slurp(path("out") / f) == slurp(checked_in / f)) << f << " differs from a fresh run of gen.py";
   EXPECT_EQ(get("review.txt"), slurp(fs::path(ZQ_SOURCE_DIR) / "scripts" / "golden" / "review.txt"));
+}
+
+// The 16-bit Thumb files have a generator of their own.
+TEST_F(GoldenGenerator, Thumb16FilesAreTheirGeneratorsOutput) {
+  const ZqRun r = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/t16/gen_t16.py --check --out '" +
+                     (fs::path(ZQ_SOURCE_DIR) / "tests" / "golden").string() + "'");
+  EXPECT_EQ(r.status, 0) << r.err;
+}
+
+TEST_F(GoldenGenerator, SubCorporaAreTheirGeneratorsOutput) {
+  const fs::path checked_in = fs::path(ZQ_SOURCE_DIR) / "tests" / "golden";
+  for (const std::string sub : SUB_GENERATORS) {
+    const std::string out = "out_" + sub;
+    // A generator that keeps a review list writes it beside its output.
+    const fs::path review = fs::path(ZQ_SOURCE_DIR) / "scripts" / "golden" / sub / "review.txt";
+    const bool reviewed = fs::exists(review);
+    const ZqRun r = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/" + sub + "/gen.py --out " + out +
+                       (reviewed ? " --review review_" + sub + ".txt" : std::string()));
+    ASSERT_EQ(r.status, 0) << r.err;
+    const std::vector<std::string> made = generated_files(path(out), sub);
+    EXPECT_EQ(made, generated_files(checked_in, sub));
+    for (const std::string &f : made)
+      EXPECT_TRUE(slurp(path(out) / f) == slurp(checked_in / f)) << f << " differs from a fresh run of " << sub;
+    if (reviewed) {
+      EXPECT_EQ(get("review_" + sub + ".txt"), slurp(review));
+    }
+  }
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 ; ADD and SUB in 16 bits: registers, immediates, SP and PC forms, high registers.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         ADDS    R0, R7, R3                      ;= 18f8
         ADDS    R1, R0, R5                      ;= 1941

@@ -1,7 +1,6 @@
 ; Branches with plain-number offsets (the offset itself), BX and BLX.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         B       0                               ;= e000
         B       2                               ;= e001

@@ -1,7 +1,6 @@
 ; 16-bit PUSH, POP, LDM and STM.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         PUSH    {R0}                            ;= b401
         PUSH    {R7}                            ;= b480

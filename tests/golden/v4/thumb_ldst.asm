@@ -1,7 +1,6 @@
 ; 16-bit loads and stores: immediate and register offsets, SP and PC bases.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v4
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         LDR     R0, [R5, #0]                    ;= 6828
         LDR     R1, [R7, #4]                    ;= 6879

@@ -1,7 +1,6 @@
 ; 16-bit ALU instructions, shifts, compares and moves.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         ANDS    R0, R7                          ;= 4038
         ANDS    R1, R0                          ;= 4001

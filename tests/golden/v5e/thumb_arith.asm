@@ -1,7 +1,6 @@
 ; ADD and SUB in 16 bits: registers, immediates, SP and PC forms, high registers.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v5e
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         ADDS    R0, R7, R2                      ;= 18b8
         ADDS    R1, R0, R4                      ;= 1901

@@ -1,7 +1,6 @@
 ; 16-bit loads and stores: immediate and register offsets, SP and PC bases.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         LDR     R7, [R1, #0]                    ;= 680f
         LDR     R2, [R5, #4]                    ;= 686a

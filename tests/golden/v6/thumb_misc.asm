@@ -1,7 +1,6 @@
 ; SVC, BKPT, NOP, hints, extends, byte reversal, CPS and SETEND in 16 bits.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         SVC     #0                              ;= df00
         BKPT    #0                              ;= be00

@@ -1,7 +1,6 @@
 ; Plain Thumb in the older syntax of .state16, also on a Thumb-2 architecture.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .state16
         ADD     R0, R7, R3                      ;= 18f8
         SUB     R0, R7, R3                      ;= 1af8

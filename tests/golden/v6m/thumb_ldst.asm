@@ -1,7 +1,6 @@
 ; 16-bit loads and stores: immediate and register offsets, SP and PC bases.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6M0
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         LDR     R1, [R4, #0]                    ;= 6821
         LDR     R0, [R2, #4]                    ;= 6850

@@ -1,7 +1,6 @@
 ; SVC, BKPT, NOP, hints, extends, byte reversal, CPS and SETEND in 16 bits.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v6M0
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .thumb
         BKPT    #0                              ;= be00
         BKPT    #1                              ;= be01

@@ -1,7 +1,6 @@
 ; Thumb-2 data processing: modified constants, registers, shifted registers, wide forms.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         AND.W   R2, R12, #0                     ;= f00c 0200
         ANDS    R11, R10, #0                    ;= f01a 0b00

@@ -1,7 +1,6 @@
 ; Thumb-2 multiplies, multiply-accumulates and divides.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         MUL     R7, R4, R9                      ;= fb04 f709
         MUL.W   R7, R4, R9                      ;= fb04 f709

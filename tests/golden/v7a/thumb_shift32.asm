@@ -1,7 +1,6 @@
 ; Thumb-2 shifts by an amount and by a register, RRX.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         LSL     R6, R11, #1                     ;= ea4f 064b
         LSLS.W  R8, R14, #1                     ;= ea5f 084e

@@ -1,7 +1,6 @@
 ; Thumb-2 data processing: modified constants, registers, shifted registers, wide forms.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M4
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         AND.W   R6, R14, #0                     ;= f00e 0600
         ANDS    R10, R9, #0                     ;= f019 0a00

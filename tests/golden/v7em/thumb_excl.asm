@@ -1,7 +1,6 @@
 ; Exclusive loads and stores, table branches, preloads.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M4
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         LDREX   R14, [R3, #0]                   ;= e853 ef00
         STREX   R0, R14, [R9, #0]               ;= e849 e000

@@ -1,7 +1,6 @@
 ; Thumb-2 multiplies, multiply-accumulates and divides.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M4
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         MUL     R10, R11, R1                    ;= fb0b fa01
         MUL.W   R10, R11, R1                    ;= fb0b fa01

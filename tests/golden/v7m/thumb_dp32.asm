@@ -1,7 +1,6 @@
 ; Thumb-2 data processing: modified constants, registers, shifted registers, wide forms.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M3
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         AND.W   R1, R2, #0                      ;= f002 0100
         ANDS    R12, R9, #0                     ;= f019 0c00

@@ -1,7 +1,6 @@
 ; Exclusive loads and stores, table branches, preloads.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M3
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         LDREX   R3, [R10, #0]                   ;= e85a 3f00
         STREX   R0, R9, [R6, #0]                ;= e846 9000

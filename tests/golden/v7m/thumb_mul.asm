@@ -1,7 +1,6 @@
 ; Thumb-2 multiplies, multiply-accumulates and divides.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M3
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         MUL     R10, R5, R7                     ;= fb05 fa07
         MUL.W   R10, R5, R7                     ;= fb05 fa07

@@ -1,7 +1,6 @@
 ; Plain Thumb in the older syntax of .state16, also on a Thumb-2 architecture.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M3
-; XFAIL: the 16-bit Thumb encoders are not on main yet
         .state16
         ADD     R0, R7, R6                      ;= 19b8
         SUB     R0, R7, R6                      ;= 1bb8

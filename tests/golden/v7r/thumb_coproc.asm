@@ -1,7 +1,6 @@
 ; Thumb-2 coprocessor instructions.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         MRC     p15, #0, R0, c1, c0, #0         ;= ee11 0f10
         MCR     p14, #7, R14, c15, c7, #7       ;= eeef eef7

@@ -1,7 +1,6 @@
 ; Thumb-2 data processing: modified constants, registers, shifted registers, wide forms.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         AND.W   R7, R3, #0                      ;= f003 0700
         ANDS    R12, R9, #0                     ;= f019 0c00

@@ -1,7 +1,6 @@
 ; Exclusive loads and stores, table branches, preloads.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         LDREX   R9, [R1, #0]                    ;= e851 9f00
         STREX   R6, R4, [R5, #0]                ;= e845 4600

@@ -1,7 +1,6 @@
 ; Thumb-2 multiplies, multiply-accumulates and divides.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         MUL     R11, R14, R9                    ;= fb0e fb09
         MUL.W   R11, R14, R9                    ;= fb0e fb09

@@ -1,7 +1,6 @@
 ; Thumb-2 shifts by an amount and by a register, RRX.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         LSL     R10, R6, #1                     ;= ea4f 0a46
         LSLS.W  R14, R10, #1                    ;= ea5f 0e4a

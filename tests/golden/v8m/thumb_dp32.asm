@@ -1,7 +1,6 @@
 ; Thumb-2 data processing: modified constants, registers, shifted registers, wide forms.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v8M33
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         AND.W   R11, R0, #0                     ;= f000 0b00
         ANDS    R10, R8, #0                     ;= f018 0a00

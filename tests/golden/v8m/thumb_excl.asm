@@ -1,7 +1,6 @@
 ; Exclusive loads and stores, table branches, preloads.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v8M33
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         LDREX   R8, [R14, #0]                   ;= e85e 8f00
         STREX   R4, R3, [R11, #0]               ;= e84b 3400

@@ -1,7 +1,6 @@
 ; Thumb-2 multiplies, multiply-accumulates and divides.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v8M33
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         MUL     R11, R8, R7                     ;= fb08 fb07
         MUL.W   R11, R8, R7                     ;= fb08 fb07

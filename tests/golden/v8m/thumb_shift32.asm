@@ -1,7 +1,6 @@
 ; Thumb-2 shifts by an amount and by a register, RRX.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v8M33
-; XFAIL: the Thumb-2 encoders are not on main yet
         .thumb
         LSL     R1, R12, #1                     ;= ea4f 014c
         LSLS.W  R12, R1, #1                     ;= ea5f 0c41
