@@ -3,7 +3,10 @@ import random
 import zlib
 
 CONDS = ['EQ', 'NE', 'CS', 'CC', 'MI', 'PL', 'VS', 'VC', 'HI', 'LS', 'GE', 'LT', 'GT', 'LE', 'AL', 'HS', 'LO']
-LEVEL = {'v4': 4, 'v5e': 5, 'v6': 6, 'v7a': 7, 'v7r': 7}
+LEVEL = {'v4': 4, 'v5e': 5, 'v6': 6, 'v7a': 7, 'v7r': 7, 'v6m': 6, 'v7m': 7, 'v7em': 7, 'v8m': 8}
+# Thumb-2 architectures, and the M profile among all of them.
+T2 = ('v7a', 'v7r', 'v7m', 'v7em', 'v8m')
+M_PROFILE = ('v6m', 'v7m', 'v7em', 'v8m')
 
 
 class E:
@@ -21,10 +24,17 @@ class E:
     label: a line that only defines this label.
     raw: a line for this assembler alone, such as a symbol definition; the
          references get the values in place of the symbols.
+    group: lines that stand or fall together (an IT block and its
+         instructions).
+    follow: ('llvm' or 'gnu', why): the reference whose value this
+         assembler's rules give where the two disagree (Thumb only); the
+         line then carries the note `why`.
     """
 
-    def __init__(self, src=None, ref=None, note=None, want=None, refarch=None, label=None, raw=None):
+    def __init__(self, src=None, ref=None, note=None, want=None, refarch=None, label=None, raw=None, group=None,
+                 follow=None):
         self.src, self.ref, self.note, self.want, self.refarch, self.label = src, ref, note, want, refarch, label
+        self.group, self.follow = group, follow
         self.raw = raw            # a line of this assembler only (a directive), written as it stands
         if self.ref is None:
             self.ref = src
@@ -50,6 +60,8 @@ class Arch:
         # v4 and v7-A get every shape of the base families; the architectures
         # between them a fixed sample, enough to see the family work there.
         self.full = name in ('v4', 'v7a')
+        self.t2 = name in T2
+        self.m = name in M_PROFILE
         self.rng = random.Random(zlib.crc32(('%s/%s' % (name, family)).encode()))
 
     def regs(self, n, pool=range(15)):

@@ -8,7 +8,7 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import fam_mem  # noqa: E402
 import gen  # noqa: E402
 from entries import Arch, E, lab, raw, rot_ok  # noqa: E402
-from refs import gnu_encode, llvm_encode  # noqa: E402
+from refs import gnu_encode, llvm_encode, thumb_encode, thumb_text  # noqa: E402
 
 
 class Placeholders(unittest.TestCase):
@@ -91,6 +91,65 @@ class References(unittest.TestCase):
         self.assertEqual([r.word for r in got], [0xE2810001, None, 0xE1A02003, None])
         got = gnu_encode(['ldr r0, back', 'bogus', 'ldr r1, back'], 'v7a', [['back'], [], []])
         self.assertEqual([r.word for r in got], [0xE51F0008, None, 0xE51F1010])
+
+
+
+class Thumb(unittest.TestCase):
+    def test_halfwords_as_written(self):
+        self.assertEqual(thumb_text(bytes([0x88, 0x18])), '1888')
+        self.assertEqual(thumb_text(bytes([0xd1, 0xf8, 0x04, 0x00])), 'f8d1 0004')
+
+    def test_branch_placeholders(self):
+        self.assertEqual(gen.resolve_thumb('b {br:8}', 6, 'llvm'), 'b #8')
+        self.assertEqual(gen.resolve_thumb('beq {br:-4}', 6, 'gnu'), 'beq .+0')
+        # BLX counts from the word-aligned pc: the same offset is another
+        # distance from a halfword-aligned line.
+        self.assertEqual(gen.resolve_thumb('blx {blx:8}', 0, 'gnu'), 'blx .+12')
+        self.assertEqual(gen.resolve_thumb('blx {blx:8}', 2, 'gnu'), 'blx .+10')
+
+    def test_references_read_back_by_line(self):
+        lines = ['adds r0, r1, r2', 'bogus', 'ldr.w r0, [r1, #4]', 'b fwd', 'fwd: movs r0, #1']
+        for tool in ('llvm', 'gnu'):
+            got = [r.word for r in thumb_encode(lines, 'v7m', tool)]
+            self.assertEqual(got, ['1888', None, 'f8d1 0004', 'e7ff', '2001'], tool)
+
+    def test_an_it_block_goes_whole(self):
+        g = object()
+        lines = ['it eq', 'addeq r0, r1', 'bogus', 'movs r0, #1']
+        got = thumb_encode(lines, 'v7m', 'gnu', [g, g, g, None])
+        self.assertEqual([r.word for r in got], [None, None, None, '2001'])
+        self.assertIn('IT block', got[0].why)
+
+    def test_follow_and_review(self):
+        entries = [E('ADDS R0, R0, #1', follow=('llvm', 'three-bit form')), E('ADDS R1, R1, #1'),
+                   E('MOVS R0, #1'), E('IT EQ', 'it eq', group=1), E('ADDEQ R0, R1, R2', 'addeq r0, r1, r2', group=1),
+                   E('IT NE', 'it ne', group=2), E('MULSNE R0, R1, R0', 'mulsne r0, r1, r0', group=2),
+                   E('NOP', want='46c0', note='MOV R8, R8')]
+        review = []
+        gen.encode_thumb_file('v7m', entries, review, 'v7m/x')
+        self.assertEqual([e.word for e in entries], ['1c40', None, '2001', 'bf08', '1888', None, None, '46c0'])
+        self.assertEqual(entries[0].note, 'three-bit form')
+        self.assertIsNone(entries[1].note)
+        self.assertEqual(len(review), 4)
+        self.assertIn('llvm-mc: 1c40 | GNU as: 3001 | written: 1c40', review[0])
+
+    def test_labels_follow_the_lines_that_stay(self):
+        # The second line is rejected by one reference only: the distance to
+        # the label is counted without it.
+        entries = [E('B fwd', 'b fwd'), E('ADD R0, PC, #4'), E('MOVS R1, #1'), lab('fwd'), E('MOVS R2, #2')]
+        gen.encode_thumb_file('v7m', entries, [], 'v7m/x')
+        self.assertEqual([e.word for e in entries if not e.label], ['e000', None, '2101', '2202'])
+
+    def test_render(self):
+        entries = [E('ADDS R0, R1, R2'), E('LDR.W R0, [R1, #4]', note='wide'), E('FOO')]
+        entries[0].word, entries[1].word = '1888', 'f8d1 0004'
+        text = gen.render_thumb('v7m', 'thumb_x', 'things', entries).splitlines()
+        self.assertEqual(text[2], '; RUN: %s %o -v7M3')
+        self.assertEqual(text[3], '        .thumb')
+        self.assertEqual(text[4], '        ADDS    R0, R1, R2' + ' ' * 22 + ';= 1888')
+        self.assertTrue(text[5].endswith(';= f8d1 0004  ; note: wide'))
+        self.assertEqual(len(text), 6)
+        self.assertIn('.state16', gen.render_thumb('v4', 'thumb_state16', 'things', []))
 
 
 if __name__ == '__main__':

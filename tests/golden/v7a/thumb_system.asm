@@ -1,0 +1,67 @@
+; PSR moves, CPS, barriers, hints, SVC, SMC, SRS, RFE, security extension.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v7A8
+; XFAIL: the Thumb-2 branch and IT encoders are not on main yet
+        .thumb
+        MRS     R0, CPSR                        ;= f3ef 8000
+        MRS     R1, SPSR                        ;= f3ff 8100
+        MRS     R2, APSR                        ;= f3ef 8200
+        MSR     CPSR_c, R3                      ;= f383 8100
+        MSR     CPSR_f, R4                      ;= f384 8800
+        MSR     CPSR_fsxc, R5                   ;= f385 8f00
+        MSR     CPSR_sx, R6                     ;= f386 8600
+        MSR     SPSR_fc, R7                     ;= f397 8900
+        MSR     SPSR_fsxc, R8                   ;= f398 8f00
+        MSR     APSR_nzcvq, R9                  ;= f389 8800
+        MSR     APSR_g, R10                     ;= f38a 8400
+        MSR     APSR_nzcvqg, R11                ;= f38b 8c00
+        CPSIE.W i                               ;= f3af 8440
+        CPSID.W i                               ;= f3af 8640
+        CPSIE   i, #16                          ;= f3af 8550
+        CPSID   i, #31                          ;= f3af 875f
+        CPSIE.W f                               ;= f3af 8420
+        CPSID.W f                               ;= f3af 8620
+        CPSIE   f, #16                          ;= f3af 8530
+        CPSID   f, #31                          ;= f3af 873f
+        CPSIE.W a                               ;= f3af 8480
+        CPSID.W a                               ;= f3af 8680
+        CPSIE   a, #16                          ;= f3af 8590
+        CPSID   a, #31                          ;= f3af 879f
+        CPSIE.W aif                             ;= f3af 84e0
+        CPSID.W aif                             ;= f3af 86e0
+        CPSIE   aif, #16                        ;= f3af 85f0
+        CPSID   aif, #31                        ;= f3af 87ff
+        CPS     #16                             ;= f3af 8110
+        CPS     #19                             ;= f3af 8113
+        SRSDB   SP!, #19                        ;= e82d c013
+        SRSIA   SP, #16                         ;= e98d c010
+        RFEIA   R0                              ;= e990 c000
+        RFEDB   R1!                             ;= e831 c000
+        RFEFD   R2                              ;= e992 c000  ; note: RFEFD is RFEIA
+        RFEEA   R3                              ;= e813 c000  ; note: RFEEA is RFEDB
+        SETEND  BE                              ;= b658
+        SETEND  LE                              ;= b650
+        SMI     #0                              ;= f7f0 8000  ; note: SMI is SMC
+        SMI     #3                              ;= f7f3 8000  ; note: SMI is SMC
+        SMI     #15                             ;= f7ff 8000  ; note: SMI is SMC
+        DMB                                     ;= f3bf 8f5f
+        DSB                                     ;= f3bf 8f4f
+        ISB                                     ;= f3bf 8f6f
+        NOP.W                                   ;= f3af 8000
+        SEV.W                                   ;= f3af 8004
+        WFE.W                                   ;= f3af 8002
+        WFI.W                                   ;= f3af 8003
+        YIELD.W                                 ;= f3af 8001
+        UDF.W   #0                              ;= f7f0 a000
+        UDF.W   #255                            ;= f7f0 a0ff
+        UDF.W   #256                            ;= f7f0 a100
+        UDF.W   #65535                          ;= f7ff afff
+        CLREX                                   ;= f3bf 8f2f
+        SVC     #200                            ;= dfc8
+        FMSTAT                                  ;= eef1 fa10  ; note: FMSTAT is VMRS APSR_nzcv
+        IT      EQ                              ;= bf08
+        SVCEQ   #1                              ;= df01
+        IT      HI                              ;= bf88
+        SVCHI   #1                              ;= df01
+        IT      LT                              ;= bfb8
+        SVCLT   #1                              ;= df01

@@ -1,0 +1,42 @@
+; Exclusive loads and stores, table branches, preloads.
+; Written by scripts/golden/gen.py: change the generator, not this file.
+; RUN: %s %o -v8M33
+        .thumb
+        LDREX   R8, [R14, #0]                   ;= e85e 8f00
+        STREX   R4, R3, [R11, #0]               ;= e84b 3400
+        LDREX   R12, [R10, #4]                  ;= e85a cf01
+        STREX   R9, R6, [R8, #4]                ;= e848 6901
+        LDREX   R6, [R1, #1020]                 ;= e851 6fff
+        STREX   R8, R6, [R1, #1020]             ;= e841 68ff
+        LDREX   R0, [R1]                        ;= e851 0f00
+        STREX   R0, R1, [R2]                    ;= e842 1000
+        LDREXB  R2, [R10]                       ;= e8da 2f4f
+        LDREXH  R2, [R6]                        ;= e8d6 2f5f
+        STREXB  R10, R5, [R9]                   ;= e8c9 5f4a
+        STREXH  R14, R6, [R11]                  ;= e8cb 6f5e
+        TBB     [R0, R1]                        ;= e8d0 f001
+        TBH     [R0, R1, LSL #1]                ;= e8d0 f011
+        TBB     [R9, R14]                       ;= e8d9 f00e
+        TBH     [R9, R14, LSL #1]               ;= e8d9 f01e
+        TBB     [PC, R3]                        ;= e8df f003
+        TBH     [PC, R3, LSL #1]                ;= e8df f013
+        TBB     [R12, R0]                       ;= e8dc f000
+        TBH     [R12, R0, LSL #1]               ;= e8dc f010
+        PLD     [R0]                            ;= f890 f000
+        PLD     [R1, #4]                        ;= f891 f004
+        PLD     [R2, #4095]                     ;= f892 ffff
+        PLD     [R3, #-1]                       ;= f813 fc01
+        PLD     [R4, #-255]                     ;= f814 fcff
+        PLD     [R5, R6]                        ;= f815 f006
+        PLD     [R7, R8, LSL #3]                ;= f817 f038
+        PLD     [PC, #100]                      ;= f89f f064
+        PLD     [PC, #-100]                     ;= f81f f064
+        PLI     [R0]                            ;= f990 f000
+        PLI     [R1, #4]                        ;= f991 f004
+        PLI     [R2, #4095]                     ;= f992 ffff
+        PLI     [R3, #-1]                       ;= f913 fc01
+        PLI     [R4, #-255]                     ;= f914 fcff
+        PLI     [R5, R6]                        ;= f915 f006
+        PLI     [R7, R8, LSL #3]                ;= f917 f038
+        PLI     [PC, #100]                      ;= f99f f064
+        PLI     [PC, #-100]                     ;= f91f f064
