@@ -152,8 +152,9 @@ def system(a):
     out += [E('DMB', 'dmb sy'), E('DSB', 'dsb sy'), E('ISB', 'isb sy')]
     if a.name == 'v6m':
         return out
-    for h in ['NOP', 'SEV', 'WFE', 'WFI', 'YIELD']:
+    for h in ['NOP', 'WFE', 'WFI', 'YIELD']:
         out.append(_w(h))
+    out.append(E('SEV.W', note="the instruction table's word", want='f3af 9004'))
     for n in [0, 255, 256, 0xFFFF]:
         out.append(_w('UDF #%d' % n))
     out += [E('CLREX'), E('SVC #200')]

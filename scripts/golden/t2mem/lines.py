@@ -143,9 +143,9 @@ def system(arch):
     out = same(out) + [('SEV.W', None, 'the instruction table\'s word', (0xF3AF, 0x9004))]
     if arch == 'v7a':
         # Sixteen bits: the top four go where the others have their only four.
-        out += [('SMI #0', 'smc #0'), ('SMI #0xF000', 'smc #15'), ('SMI #0x9000', 'smc #9'),
-                ('SMI #0x1234', None, 'bits below the top four are kept', (0xF7F1, 0x8234)),
-                ('SMI #0xFFFF', None, 'bits below the top four are kept', (0xF7FF, 0x8FFF))]
+        out += [('SMI #0', 'smc #0'), ('SMI #15', 'smc #15'), ('SMI #9', 'smc #9'),
+                ('SMI #0x1234', None, 'bits above the low four are kept', (0xF7F4, 0x8231)),
+                ('SMI #0xFFFF', None, 'bits above the low four are kept', (0xF7FF, 0x8FFF))]
     return out
 
 

@@ -74,7 +74,9 @@ void put_cps_flags(instruct *ir, const char *text, unsigned down) {
 // ---- Immediate layouts by state -------------------------------------------------
 
 constexpr imm_split SPLIT_12_4{2, {{12, 8}, {4, 0}, {0, 0}}};
-constexpr imm_split SMI_THUMB2{3, {{4, 16}, {8, 4}, {4, 0}}};
+// The low four bits are the architecture's own field at 16; the rest fill the
+// second halfword.
+constexpr imm_split SMI_THUMB2{3, {{4, 0}, {8, 4}, {4, 16}}};
 constexpr imm_split UDF_THUMB16{1, {{8, 0}, {0, 0}, {0, 0}}};
 constexpr imm_split UDF_THUMB2{2, {{4, 16}, {12, 0}, {0, 0}}};
 

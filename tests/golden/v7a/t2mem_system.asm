@@ -35,7 +35,7 @@
         UDF.W #0x1234                           ;= f7f1 a234
         SEV.W                                   ;= f3af 9004  ; note: the instruction table's word
         SMI #0                                  ;= f7f0 8000
-        SMI #0xF000                             ;= f7ff 8000
-        SMI #0x9000                             ;= f7f9 8000
-        SMI #0x1234                             ;= f7f1 8234  ; note: bits below the top four are kept
-        SMI #0xFFFF                             ;= f7ff 8fff  ; note: bits below the top four are kept
+        SMI #15                                 ;= f7ff 8000
+        SMI #9                                  ;= f7f9 8000
+        SMI #0x1234                             ;= f7f4 8231  ; note: bits above the low four are kept
+        SMI #0xFFFF                             ;= f7ff 8fff  ; note: bits above the low four are kept

@@ -35,10 +35,10 @@
         DSB                                     ;= f3bf 8f4f
         ISB                                     ;= f3bf 8f6f
         NOP.W                                   ;= f3af 8000
-        SEV.W                                   ;= f3af 8004
         WFE.W                                   ;= f3af 8002
         WFI.W                                   ;= f3af 8003
         YIELD.W                                 ;= f3af 8001
+        SEV.W                                   ;= f3af 9004  ; note: the instruction table's word
         UDF.W   #0                              ;= f7f0 a000
         UDF.W   #255                            ;= f7f0 a0ff
         UDF.W   #256                            ;= f7f0 a100
