@@ -1,0 +1,298 @@
+// The Thumb-2 width decisions on parsed statements: which 32-bit rows may
+// take a 16-bit form, the folds that need no trial, the lengths that wait
+// for jump expansion, and a trial that fails without a trace.
+#include <cstring>
+
+#include "driver/diag.h"
+#include "driver/driver.h"
+#include "driver/options.h"
+#include "driver/pipeline.h"
+#include "parse_fixture.h"
+#include "target/arm/glue_pending.h"
+#include "target/arm/thumb2_hooks.h"
+#include "target/arm/trg.h"
+
+namespace {
+
+class Width : public ParseTest {
+ protected:
+  // Thumb-2 on v7-A; `it` opens a block of one instruction under EQ.
+  instruct *thumb2(const char *line, bool it = false) {
+    target("7A8", 2);
+    if (it) {
+      std::strcpy(cur_it_string, "T");
+      cur_it_cc = COND_EQ;
+    }
+    instruct *ir = parse(line);
+    // Only the undefined label may draw a message.
+    if (!std::strstr(line, "lab")) EXPECT_EQ(screen(), "") << line;
+    return ir;
+  }
+  std::string shapes() const {
+    std::string s;
+    for (int i = 0; i < operands(); ++i) s += (i ? " | " : "") + describe(i);
+    return s;
+  }
+};
+
+struct decision {
+  const char *line;
+  bool it;
+  bool ok;
+  const char *row;   // the row afterwards
+};
+
+TEST_F(Width, FlagRulesDecideWhichDataProcessingMayNarrow) {
+  const decision cases[] = {
+      // Without S outside a block the 16-bit form would set flags: only the
+      // forms that set none (high-register ADD, MOV as CPY, SP arithmetic)
+      // and the compares may go.
+      {"add r0, r0, r1", false, true, "ADD"},
+      {"add r0, r1, r0", false, true, "ADD"},
+      {"add r0, r1, r2", false, false, "ADD"},
+      {"add r0, r1, #4", false, false, "ADD"},
+      {"add r0, sp, #4", false, true, "ADD"},
+      {"add sp, sp, #8", false, true, "ADD"},
+      {"sub sp, sp, #8", false, true, "SUB"},
+      {"sub r0, r0, #1", false, false, "SUB"},
+      {"cmp r0, #1", false, true, "CMP"},
+      {"cmn r0, r1", false, true, "CMN"},
+      {"tst r0, r1", false, true, "TST"},
+      {"and r0, r0, r1", false, false, "AND"},
+      {"mul r0, r0, r1", false, false, "MUL"},
+      {"lsl r0, r1, r2", false, false, "LSL"},
+      {"mov r0, r1", false, true, "CPY"},
+      {"mov r0, #1", false, false, "MOV"},
+      {"mov r0, r1, lsl #2", false, false, "MOV"},
+      // Inside a block the 16-bit forms set no flags.
+      {"andeq r0, r0, r1", true, true, "AND"},
+      {"moveq r0, #1", true, true, "MOV"},
+      {"andseq r0, r0, r1", true, false, "AND"},
+      // With S: MOV, ADD and SUB only of low registers.
+      {"movs r0, #1", false, true, "MOV"},
+      {"movs r0, r8", false, false, "MOV"},
+      {"adds r0, r0, r1", false, true, "ADD"},
+      {"adds r8, r8, r1", false, false, "ADD"},
+      {"adds r0, r1, r9", false, false, "ADD"},
+      {"adds r0, r1, #1", false, true, "ADD"},
+      {"ands r0, r0, r1", false, true, "AND"},
+      {"ands r8, r8, r1", false, true, "AND"},
+      // Not data processing: left to the trial.
+      {"ldr r0, [r1]", false, true, "LDR"},
+  };
+  for (const decision &c : cases) {
+    instruct *ir = thumb2(c.line, c.it);
+    ASSERT_NE(ir, nullptr) << c.line;
+    EXPECT_EQ(ok_to_convert_to_thumb(ir), c.ok) << c.line;
+    EXPECT_EQ(row(), c.row) << c.line;
+  }
+}
+
+TEST_F(Width, TwoOperandRetryKeepsRdAndTheRightSource) {
+  struct retry {
+    const char *line;
+    bool ok;
+    int kept;
+  };
+  const retry cases[] = {
+      {"ands r0, r0, r1", true, 2},  {"ands r0, r1, r0", true, 1},  {"orrs r0, r1, r0", true, 1},
+      {"muls r0, r1, r0", true, 1},  {"adcs r0, r1, r0", true, 1},  {"eors r0, r1, r0", true, 1},
+      {"bics r0, r0, r1", true, 2},  {"bics r0, r1, r0", false, 0}, {"subs r0, r1, r0", false, 0},
+      {"ands r0, r1, r2", false, 0}, {"adds r0, r1, #0", false, 0}, {"cmp r0, r1", false, 0},
+  };
+  for (const retry &c : cases) {
+    instruct *ir = thumb2(c.line);
+    int kept = 0;
+    EXPECT_EQ(try_2opnd_thumb_instr(ir, &kept), c.ok) << c.line;
+    EXPECT_EQ(kept, c.kept) << c.line;
+  }
+  EXPECT_FALSE(commutative_instr(thumb2("adds r0, r1, #1")));
+}
+
+TEST_F(Width, AddOfItsOwnDestinationFoldsToTheHighRegisterForm) {
+  struct fold {
+    const char *line;
+    const char *after;   // empty: not folded
+  };
+  const fold cases[] = {
+      {"add r0, r0, r1", "REG r0 =0 | REG r1 =1"},  {"add r0, r1, r0", "REG r0 =0 | REG r1 =1"},
+      {"add r8, r8, r1", "REG r8 =8 | REG r1 =1"},  {"add r0, r1", "REG r0 =0 | REG r1 =1"},
+      {"adds r0, r0, r1", ""},                      {"add r0, r1, r2", ""},
+      {"add r0, r0, #1", ""},
+  };
+  for (const fold &c : cases) {
+    instruct *ir = thumb2(c.line);
+    const std::string before = shapes();
+    instlen = 4;
+    const bool folded = handle_add(ir);
+    EXPECT_EQ(folded, *c.after != '\0') << c.line;
+    EXPECT_EQ(shapes(), folded ? c.after : before) << c.line;
+    EXPECT_EQ(instlen, folded ? 2u : 4u) << c.line;
+  }
+  // Pass 1 needs only the length and leaves the statement alone.
+  instruct *ir = thumb2("add r0, r0, r1");
+  pass1 = 1;
+  EXPECT_TRUE(handle_add(ir));
+  pass1 = 0;
+  EXPECT_EQ(operands(), 3);
+}
+
+TEST_F(Width, ShiftedMoveBecomesTheShiftStatement) {
+  struct shift_case {
+    const char *line;
+    bool it;
+    const char *row;     // null: not taken
+    const char *after;
+  };
+  const shift_case cases[] = {
+      {"lsls r0, r1, #2", false, "LSL", "REG r0 =0 | REG r1 =1 | ICON r0 =2"},
+      {"lsrs r7, r6, #32", false, "LSR", "REG r7 =7 | REG r6 =6 | ICON r0 =32"},
+      {"movs r0, r1, asr #3", false, "ASR", "REG r0 =0 | REG r1 =1 | ICON r0 =3"},
+      {"lsleq r0, r1, #2", true, "LSL", "REG r0 =0 | REG r1 =1 | ICON r0 =2"},
+      {"lsl r0, r1, #2", false, nullptr, nullptr},
+      {"lslseq r0, r1, #2", true, nullptr, nullptr},
+      {"lsls r8, r1, #2", false, nullptr, nullptr},
+      {"lsls r0, r9, #2", false, nullptr, nullptr},
+      {"rors r0, r1, #2", false, nullptr, nullptr},
+      {"movs r0, r1", false, nullptr, nullptr},
+  };
+  for (const shift_case &c : cases) {
+    instruct *ir = thumb2(c.line, c.it);
+    const std::string before = shapes();
+    EXPECT_EQ(handle_movs_shift(ir), c.row != nullptr) << c.line;
+    EXPECT_EQ(row(), c.row ? c.row : "MOV") << c.line;
+    EXPECT_EQ(shapes(), c.after ? c.after : before) << c.line;
+    if (c.row) {
+      EXPECT_NE(ia_row(ir)->slot[STATE_THUMB16].cls, nullptr) << c.line;
+    }
+  }
+}
+
+TEST_F(Width, LabelDependentLengthsAndTheirKinds) {
+  struct variable {
+    const char *line;
+    bool variable;
+    JUMP_LIST_TYPE kind;
+  };
+  const variable cases[] = {
+      {"ldr r0, lab", true, JUMP_LOAD_ADDR}, {"adr r7, lab", true, JUMP_LOAD_ADDR},
+      {"ldr r8, lab", false, JUMP_LABEL},    {"adr sp, lab", false, JUMP_LABEL},
+      {"ldrb r0, lab", false, JUMP_LABEL},   {"ldr r0, [r1]", false, JUMP_LABEL},
+      {"b lab", true, JUMP_UNCOND},          {"beq lab", true, JUMP_COND},
+      {"b.w lab", false, JUMP_LABEL},        {"bl lab", false, JUMP_LABEL},
+      {"ldr.w r0, lab", false, JUMP_LABEL},
+  };
+  for (const variable &c : cases) {
+    instruct *ir = thumb2(c.line);
+    JUMP_LIST_TYPE kind = JUMP_LABEL;
+    EXPECT_EQ(variable_length_t2_ins(ir, &kind), c.variable) << c.line;
+    EXPECT_EQ(kind, c.kind) << c.line;
+  }
+}
+
+TEST_F(Width, LengthsByClass) {
+  struct length_case {
+    const char *arch;
+    uint32_t state;
+    const char *line;
+    uint32_t bytes;
+  };
+  const length_case cases[] = {
+      {"7A8", 2, "add r0, r1, r2", 4},   {"7A8", 2, "itt eq", 2},      {"7A8", 2, "cbz r0, lab", 2},
+      {"7A8", 2, "cdp p1, 2, c3, c4, c5, 6", 4}, {"7A8", 2, "udf.n #1", 2}, {"7A8", 2, "udf #1", 4},
+      {"7A8", 2, "bl lab", 4},           {"7A8", 2, "adds.n r0, r1, r2", 2},
+      {"4", 1, "bl lab", 4},             {"4", 1, "bx r1", 2},         {"4", 1, "add r0, r1", 2},
+      {"7A8", 0, "add r0, r1, r2", 4},
+  };
+  for (const length_case &c : cases) {
+    target(c.arch, c.state);
+    ASSERT_NE(parse(c.line), nullptr) << c.line;
+    EXPECT_EQ(TRG_get_instlen(ir_), c.bytes) << c.line;
+  }
+}
+
+// Pass 1 pushes a first length for each label-dependent statement; pass 2
+// pops exactly those, in order, and sets the slot for the length read.
+TEST_F(Width, BothPassesAgreeOnWhatGoesThroughTheLengthStream) {
+  struct stream_case {
+    const char *arch;
+    uint32_t state;
+    const char *line;
+    bool pushes;
+    uint32_t length;        // pass 2: the length jump expansion decided
+    uint32_t pass2_slot;
+  };
+  const stream_case cases[] = {
+      {"7A8", 2, "beq lab", true, 4, STATE_THUMB2},   {"7A8", 2, "b lab", true, 2, STATE_THUMB16},
+      {"7A8", 2, "ldr r0, lab", true, 2, STATE_THUMB16}, {"7A8", 2, "adr r1, lab", true, 4, STATE_THUMB2},
+      {"7A8", 2, "ldr r8, lab", false, 4, STATE_THUMB2}, {"7A8", 2, "bl lab", false, 4, STATE_THUMB2},
+      {"7A8", 2, "b.w lab", false, 4, STATE_THUMB2},    {"7A8", 2, "beq.n lab", true, 2, STATE_THUMB16},
+      {"4", 1, "beq lab", true, 4, STATE_THUMB16},      {"4", 1, "b lab", false, 2, STATE_THUMB16},
+      {"4", 1, "bl lab", false, 4, STATE_THUMB16},      {"4", 1, "br lab", true, 6, STATE_THUMB16},
+      {"4", 1, "bteq lab, 3", true, 4, STATE_THUMB16},  {"4", 1, "bq lab", true, 2, STATE_THUMB16},
+      {"4", 1, "bx r0", false, 2, STATE_THUMB16},
+  };
+  for (const stream_case &c : cases) {
+    target(c.arch, c.state);
+    ASSERT_NE(parse(c.line), nullptr) << c.line;
+    isize_list.clear();
+    isize_idx = 0;
+    pass1 = 1;
+    pass2 = 0;
+    TRG_encode(ir_);
+    pass1 = 0;
+    pass2 = 1;
+    ASSERT_EQ(isize_list.size(), c.pushes ? 1u : 0u) << c.line;
+    if (c.pushes) {
+      EXPECT_EQ(isize_list[0], 2u) << c.line;
+      EXPECT_EQ(instlen, 2u) << c.line;
+      isize_list[0] = c.length;
+    }
+    target(c.arch, c.state);
+    ASSERT_NE(parse(c.line), nullptr) << c.line;
+    EXPECT_EQ(TRG_get_instlen(ir_), c.length) << c.line;
+    EXPECT_EQ(isize_idx, c.pushes ? 1u : 0u) << c.line;
+    EXPECT_EQ(encode_state, c.pass2_slot) << c.line;
+  }
+  isize_list.clear();
+  isize_idx = 0;
+}
+
+// Whatever the trial did to the statement is undone when it fails, and
+// nothing reaches the screen or the error count.
+TEST_F(Width, FailedTrialLeavesNoTrace) {
+  const char *lines[] = {"adds r0, r1, #300", "ands r0, r0, r8", "eors r0, r9, r0", "movs r0, #0x1200"};
+  for (const char *line : lines) {
+    instruct *ir = thumb2(line);
+    const std::string before = shapes();
+    const uint32_t flags = ir->ia_flags, slot = encode_state, errors = num_errors, warnings = num_warnings;
+    const void *record = ir->record;
+    instlen = 4;
+    EXPECT_FALSE(conv_32t2_to_16t(ir)) << line;
+    EXPECT_EQ(shapes(), before) << line;
+    EXPECT_EQ(ir->ia_flags, flags) << line;
+    EXPECT_EQ(ir->record, record) << line;
+    EXPECT_EQ(encode_state, slot) << line;
+    EXPECT_EQ(instlen, 4u) << line;
+    EXPECT_EQ(num_errors, errors) << line;
+    EXPECT_EQ(num_warnings, warnings) << line;
+    EXPECT_EQ(output_error, 1) << line;
+    EXPECT_EQ(suppress_output, 0) << line;
+    EXPECT_EQ(screen(), "") << line;
+  }
+}
+
+TEST_F(Width, TrialCountsWarningsEvenWhenWarningsAreOff) {
+  global_opts->setopt(OPT_NO_WARNINGS);
+  const uint32_t warnings = num_warnings;
+  errors_or_warn = 0;
+  warn(nullptr, "W0002", "seen by the trial");
+  EXPECT_EQ(errors_or_warn, 0u);
+  output_error = 0;
+  warn(nullptr, "W0002", "seen by the trial");
+  output_error = 1;
+  EXPECT_EQ(errors_or_warn, 1u);
+  EXPECT_EQ(num_warnings, warnings);
+}
+
+}  // namespace
