@@ -10,6 +10,7 @@
 #include "parse_fixture.h"
 #include "target/arm/glue_pending.h"
 #include "target/arm/thumb2_hooks.h"
+#include "support/fhm.h"
 #include "target/arm/trg.h"
 
 namespace {
@@ -293,6 +294,54 @@ TEST_F(Width, TrialCountsWarningsEvenWhenWarningsAreOff) {
   output_error = 1;
   EXPECT_EQ(errors_or_warn, 1u);
   EXPECT_EQ(num_warnings, warnings);
+}
+
+}  // namespace
+
+namespace {
+
+// With a listing, each Thumb-2 statement of pass 2 gets a mark in place of
+// its newline; the statistics count the kept lines and the 16-bit ones whose
+// text holds ".W" (in any case).
+TEST_F(Width, ListingMarksAndCounters) {
+  struct mark {
+    const char *line;
+    const char *tail;
+  };
+  const mark cases[] = {
+      {"add r0, r1, r2", " ; [KEEP 32-BIT INS]\n"},
+      {"add.w r0, r1, r2", " ; [KEEP 32-BIT INS]\n"},
+      {"it eq", " ; [ORIG 16-BIT INS]\n"},
+      {"adds.n r0, r1, r2", " ; [ORIG 16-BIT INS]\n"},
+      {"adds.n r0, r1, r2 ; was .W", " ; [CONV 16-BIT INS]\n"},
+      {"it eq ; IT.w", " ; [CONV 16-BIT INS]\n"},
+  };
+  global_opts->setopt(OPT_ASM_LISTING);
+  ASSY_LST = fhm_open("/dev/null", "w");
+  ASSERT_NE(ASSY_LST, nullptr);
+  const int64_t keep = num_thumb2_keep, conv = num_thumb2_conv;
+  for (const mark &c : cases) {
+    instruct *ir = thumb2(c.line);
+    update_thumb2_lst(ir);
+    const std::string text = ir->line->text;
+    EXPECT_EQ(text, std::string("        ") + c.line + c.tail);
+    // The source line itself stays as it was read.
+    EXPECT_EQ(std::string(ir->line->source_text), std::string("        ") + c.line + "\n");
+  }
+  EXPECT_EQ(num_thumb2_keep - keep, 2);
+  EXPECT_EQ(num_thumb2_conv - conv, 2);
+  // Neither a trial nor pass 1 marks or counts.
+  instruct *ir = thumb2("add r0, r1, r2");
+  output_error = 0;
+  update_thumb2_lst(ir);
+  output_error = 1;
+  pass1 = 1;
+  update_thumb2_lst(ir);
+  pass1 = 0;
+  EXPECT_EQ(std::string(ir->line->text), "        add r0, r1, r2\n");
+  EXPECT_EQ(num_thumb2_keep - keep, 2);
+  fhm_close(ASSY_LST);
+  ASSY_LST = nullptr;
 }
 
 }  // namespace
