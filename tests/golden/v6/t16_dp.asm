@@ -1,0 +1,55 @@
+; ADD, SUB with the swap of a negative immediate, ALU operations, shifts, CMP, MOV.
+; Written by scripts/golden/t16/gen_t16.py: change the generator, not this file.
+; RUN: %s %o -v6
+        .thumb
+        ADDS    R0, #1                          ;= 3001
+        ADDS    R7, #255                        ;= 37ff
+        ADDS    R0, #-1                         ;= 3801
+        SUBS    R1, #-255                       ;= 31ff
+        SUBS    R2, #0                          ;= 3a00
+        ADD     SP, #508                        ;= b07f
+        ADD     SP, #-508                       ;= b0ff
+        ADD     SP, #0                          ;= b000
+        ADD     R0, R8                          ;= 4440
+        ADD     R8, R0                          ;= 4480
+        ADD     R9, R10                         ;= 44d1
+        ADD     SP, R1                          ;= 448d
+        ADD     R0, SP                          ;= 4468
+        ADD     R0, PC, #1020                   ;= a0ff
+        ADD     R7, SP, #4                      ;= af01
+        ADDS    R0, R1, R2                      ;= 1888
+        ADDS    R7, R6, #7                      ;= 1df7
+        SUBS    R0, R1, R2                      ;= 1a88
+        SUBS    R5, R6, #3                      ;= 1ef5
+        ANDS    R0, R1                          ;= 4008
+        EORS    R2, R3                          ;= 405a
+        ADCS    R4, R5                          ;= 416c
+        SBCS    R6, R7                          ;= 41be
+        ORRS    R0, R7                          ;= 4338
+        BICS    R7, R0                          ;= 4387
+        MVNS    R1, R2                          ;= 43d1
+        RSBS    R3, R4, #0                      ;= 4263
+        RORS    R5, R6                          ;= 41f5
+        TST     R0, R1                          ;= 4208
+        CMN     R2, R3                          ;= 42da
+        MULS    R0, R1, R0                      ;= 4348
+        ANDS    R0, R1, R0                      ;= 4008
+        LSLS    R0, R1                          ;= 4088
+        LSRS    R2, R3                          ;= 40da
+        ASRS    R4, R5                          ;= 412c
+        LSLS    R0, R1, #0                      ;= 0008
+        LSLS    R0, R1, #31                     ;= 07c8
+        LSRS    R0, R1, #1                      ;= 0848
+        LSRS    R0, R1, #32                     ;= 0808
+        ASRS    R7, R6, #32                     ;= 1037
+        ASRS    R7, R6, #17                     ;= 1477
+        CMP     R0, R1                          ;= 4288
+        CMP     R0, R8                          ;= 4540
+        CMP     R9, R1                          ;= 4589
+        CMP     R7, #255                        ;= 2fff
+        MOVS    R0, #0                          ;= 2000
+        MOVS    R5, #200                        ;= 25c8
+        MOVS    R0, R1                          ;= 1c08  ; note: MOVS of two low registers is ADDS Rd, Rs, #0
+        MOV     R8, R8                          ;= 46c0
+        MOV     R0, R9                          ;= 4648
+        MOV     PC, LR                          ;= 46f7
