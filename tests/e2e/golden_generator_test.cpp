@@ -21,14 +21,24 @@ class GoldenGenerator : public ZqDirFixture {
   const std::string scripts_ = "'" + (fs::path(ZQ_SOURCE_DIR) / "scripts" / "golden").string() + "'";
 };
 
-// The files of the architecture folders that gen.py writes, relative to
-// `root`; other generators mark their files with their own name.
-std::vector<std::string> generated_files(const fs::path &root) {
+// Files of the architecture folders that scripts/golden/<name>/gen.py writes
+// carry the prefix "<name>_" (and say which generator wrote them); the others
+// are gen.py's own.
+constexpr const char *SUB_GENERATORS[] = {"t2mem"};
+
+// The files of the architecture folders, relative to `root`: those of the
+// sub-generator `sub`, or with none, those of gen.py.
+std::vector<std::string> generated_files(const fs::path &root, const std::string &sub = "") {
   std::vector<std::string> out;
   if (!fs::exists(root)) return out;
   for (const auto &e : fs::recursive_directory_iterator(root)) {
     const std::string rel = fs::relative(e.path(), root).string();
     if (!e.is_regular_file() || !rel.starts_with("v")) continue;
+    const std::string name = e.path().filename().string();
+    if (!sub.empty()) {
+      if (name.starts_with(sub + "_")) out.push_back(rel);
+      continue;
+    }
     const std::string text = slurp(e.path());
     if (text.find("Written by scripts/golden/") != std::string::npos &&
         text.find("Written by scripts/golden/gen.py") == std::string::npos)
@@ -47,6 +57,11 @@ TEST_F(GoldenGenerator, UnitTests) {
 TEST_F(GoldenGenerator, CorpusIsTheGeneratorsOutput) {
   const ZqRun r = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/gen.py --out out --review review.txt");
   ASSERT_EQ(r.status, 0) << r.err;
+  // Families with a generator of their own write beside it.
+  for (const char *family : {"t2dp"}) {
+    const ZqRun f = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/" + family + "/gen.py --out out");
+    ASSERT_EQ(f.status, 0) << family << ": " << f.err;
+  }
   const fs::path checked_in = fs::path(ZQ_SOURCE_DIR) / "tests" / "golden";
   const std::vector<std::string> made = generated_files(path("out"));
   EXPECT_EQ(made, generated_files(checked_in));
@@ -60,6 +75,22 @@ TEST_F(GoldenGenerator, Thumb16FilesAreTheirGeneratorsOutput) {
   const ZqRun r = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/t16/gen_t16.py --check --out '" +
                      (fs::path(ZQ_SOURCE_DIR) / "tests" / "golden").string() + "'");
   EXPECT_EQ(r.status, 0) << r.err;
+}
+
+TEST_F(GoldenGenerator, SubCorporaAreTheirGeneratorsOutput) {
+  const fs::path checked_in = fs::path(ZQ_SOURCE_DIR) / "tests" / "golden";
+  for (const std::string sub : SUB_GENERATORS) {
+    const std::string out = "out_" + sub;
+    const ZqRun r = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/" + sub + "/gen.py --out " + out +
+                       " --review review_" + sub + ".txt");
+    ASSERT_EQ(r.status, 0) << r.err;
+    const std::vector<std::string> made = generated_files(path(out), sub);
+    EXPECT_EQ(made, generated_files(checked_in, sub));
+    for (const std::string &f : made)
+      EXPECT_TRUE(slurp(path(out) / f) == slurp(checked_in / f)) << f << " differs from a fresh run of " << sub;
+    EXPECT_EQ(get("review_" + sub + ".txt"),
+              slurp(fs::path(ZQ_SOURCE_DIR) / "scripts" / "golden" / sub / "review.txt"));
+  }
 }
 
 }  // namespace

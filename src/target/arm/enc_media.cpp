@@ -90,6 +90,11 @@ void sat_shift(instruct *ir, const operand *op) {
     error(ir->line, "E0004", "Shift amount exceeds its maximum value");
     return;
   }
+  // Thumb-2 has no ASR #32 here: its zero amount with ASR is SSAT16.
+  if (asr && amount == 32 && OPR_thumb2()) {
+    error(ir->line, "E0004", "Shift amount exceeds its maximum value");
+    return;
+  }
   if (amount == 32) amount = 0;
   if (OPR_thumb2()) {
     if (asr) ENC_set(ir, 1u << 21);
@@ -129,23 +134,6 @@ void encode_saturate(instruct *ir, bool halfword) {
   } else if (check_op_reg(ir, src, "n")) {
     ENC_put(ir, rn_bit, 4, src->op_reg);
   }
-}
-
-// ---- Extends -----------------------------------------------------------------------
-
-// The rotation of an extend's source: ROR #0, 8, 16 or 24 as two bits at 10.
-// A written ROR #0 reaches here as the parser's LSL #0.
-void extend_rotation(instruct *ir, const operand *op) {
-  const int64_t amount = ENC_value(op);
-  if (op->op_shift != SHIFT_ROR && !(op->op_shift == SHIFT_LSL && amount == 0)) {
-    error(ir->line, "E0004", "Illegal shift type. Must be ROR");
-    return;
-  }
-  if (amount != 0 && amount != 8 && amount != 16 && amount != 24) {
-    error(ir->line, "E0004", "Illegal rotate value. Must be 0, 8, 16 or 24");
-    return;
-  }
-  ENC_put(ir, 10, 2, static_cast<uint32_t>(amount / 8));
 }
 
 // ---- Packs -------------------------------------------------------------------------
@@ -277,7 +265,7 @@ void encode_extend(instruct *ir) {
   const operand *rm = ia_op(ir, next);
   if (rm->kind == OP_SHIFTREGI) {
     ENC_put(ir, 0, 4, rm->op_reg);
-    extend_rotation(ir, rm);
+    OPR_put_rotation(ir, rm, 10);
   } else if (check_op_reg(ir, rm, "m")) {
     ENC_put(ir, 0, 4, rm->op_reg);
   }
@@ -306,4 +294,18 @@ void encode_pack(instruct *ir) {
   ENC_put(ir, 16, 4, n);
   ENC_put(ir, 0, 4, m);
   if (!plain) pack_shift(ir, rm, top);
+}
+
+void OPR_put_rotation(instruct *ir, const operand *op, unsigned bit) {
+  const int64_t amount = ENC_value(op);
+  // A written ROR #0 reaches here as the parser's LSL #0.
+  if (op->op_shift != SHIFT_ROR && !(op->op_shift == SHIFT_LSL && amount == 0)) {
+    error(ir->line, "E0004", "Illegal shift type. Must be ROR");
+    return;
+  }
+  if (amount != 0 && amount != 8 && amount != 16 && amount != 24) {
+    error(ir->line, "E0004", "Illegal rotate value. Must be 0, 8, 16 or 24");
+    return;
+  }
+  ENC_put(ir, bit, 2, static_cast<uint32_t>(amount / 8));
 }

@@ -44,7 +44,8 @@ constexpr media_mul_rule media_mul_rules[] = {
     {&arm_v6_usad8, pc_rule::NONE, 3, {{R::RD, 16, NO_FIELD}, {R::RM, 0, NO_FIELD}, {R::RS, 8, NO_FIELD}}},
     {&arm_v6_usada8, pc_rule::NONE, 4, {{R::RD, 16, NO_FIELD}, {R::RM, 0, NO_FIELD}, {R::RS, 8, NO_FIELD}, {R::RN, 12, NO_FIELD}}},
     {&t2_v6_usad8, pc_rule::NONE, 3, {{R::RD, NO_FIELD, 8}, {R::RN, NO_FIELD, 16}, {R::RM, NO_FIELD, 0}}},
-    {&t2_v6_usada8, pc_rule::NONE, 4, {{R::RD, NO_FIELD, 8}, {R::RN, NO_FIELD, 16}, {R::RM, NO_FIELD, 0}, {R::RACC, NO_FIELD, 12}}},
+    // In Thumb-2 an R15 accumulator would be the encoding of USAD8.
+    {&t2_v6_usada8, pc_rule::ACCUMULATOR, 4, {{R::RD, NO_FIELD, 8}, {R::RN, NO_FIELD, 16}, {R::RM, NO_FIELD, 0}, {R::RACC, NO_FIELD, 12}}},
 };
 
 void encode_media_mul(instruct *ir) {

@@ -70,6 +70,15 @@ bool OPR_reject_pc(instruct *ir, const unsigned regs[], unsigned count) {
   return true;
 }
 
+void OPR_error_pc_once(instruct *ir, const unsigned regs[], unsigned count) {
+  for (unsigned i = 0; i < count; ++i) {
+    if (regs[i] == REG_PC) {
+      error_pc_op(ir, REG_PC);
+      return;
+    }
+  }
+}
+
 unsigned OPR_shift_reg(const operand *op) { return static_cast<unsigned>(ENC_value(op)) & 0xFu; }
 
 void OPR_shape_fault() { std::fputs(">> Internal Error: invalid operand combination.\n", stderr); }
@@ -79,3 +88,5 @@ const mnemonic_row *OPR_find_row(const char *name) {
     if (std::strcmp(row->name, name) == 0) return row;
   return nullptr;
 }
+
+bool OPR_row_is(const instruct *ir, const char *name) { return std::strcmp(ia_row(ir)->name, name) == 0; }

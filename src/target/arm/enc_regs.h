@@ -52,6 +52,10 @@ bool OPR_encode(instruct *ir, const reg_operand *ops, unsigned count, unsigned r
 // "R15 is an invalid operand", once, when any of regs[] is 15.
 bool OPR_reject_pc(instruct *ir, const unsigned regs[], unsigned count);
 
+// error_pc_op, once, when any of regs[] is 15 (an operand that was no
+// register reads as 0).
+void OPR_error_pc_once(instruct *ir, const unsigned regs[], unsigned count);
+
 // The register of a register-specified shift (Rm, LSL Rs): the parser leaves
 // the shift register's number as the operand's value.
 unsigned OPR_shift_reg(const operand *op);
@@ -63,3 +67,10 @@ void OPR_shape_fault();
 // The mnemonic row of the name (upper case), found once per name by the caller.
 const mnemonic_row *OPR_find_row(const char *name);
 
+
+// The statement's mnemonic row has this name (upper case).
+bool OPR_row_is(const instruct *ir, const char *name);
+
+// The rotation of an extend's source (ROR #0, 8, 16 or 24) as two bits at
+// `bit`, with its messages.
+void OPR_put_rotation(instruct *ir, const operand *op, unsigned bit);

@@ -44,12 +44,13 @@ struct cps_flag_row {
   char letter;
   unsigned bit;
 };
+// Bits in ARM state; Thumb-2 has them one place lower.
 constexpr cps_flag_row cps_flag_rows[] = {{'A', 8}, {'I', 7}, {'F', 6}};
 constexpr unsigned CPS_MAX_FLAGS = 3;
 
 // The letters of CPSIE/CPSID, either case, at most three; a message for
 // the first letter that is no flag.
-void put_cps_flags(instruct *ir, const char *text) {
+void put_cps_flags(instruct *ir, const char *text, unsigned down) {
   unsigned count = 0;
   for (const char *p = text ? text : ""; *p; ++p, ++count) {
     if (count == CPS_MAX_FLAGS) {
@@ -64,7 +65,9 @@ void put_cps_flags(instruct *ir, const char *text) {
       error(ir->line, "E0004", "Illegal flag specified: %c", *p);
       return;
     }
-    ENC_put(ir, found->bit, 1, 1);
+    if (found->letter == 'A' && down && arm_arch_types.is_cortex_m())
+      error(ir->line, "E0004", "'A' flag invalid for Cortex M.");
+    ENC_put(ir, found->bit - down, 1, 1);
   }
 }
 
@@ -187,12 +190,29 @@ void encode_cps(instruct *ir) {
     if (first->kind != OP_CPSFLAGS) {
       error(ir->line, "E0004", "Invalid operand type for CPS.");
     } else {
-      put_cps_flags(ir, first->value.v_str);
+      put_cps_flags(ir, first->value.v_str, 0);
     }
   }
   if (!mode) return;
-  ENC_put(ir, 17, 1, 1);
+  // The Thumb-2 word of CPS #mode has its mode bit (8) already.
+  if (encode_state == STATE_ARM) ENC_put(ir, 17, 1, 1);
   put_mode(ir, mode);
+}
+
+// Thumb-2 CPSIE, CPSID: the flags, then an optional mode. M-profile cores
+// have only the 16-bit form.
+void encode_t2_cps(instruct *ir) {
+  check_arch_v7(ir);
+  if (arm_arch_types.is_cortex_m()) error(ir->line, "E0004", "This CPS form is illegal in the Cortex-M.");
+  const operand *flags = ia_op(ir, 0);
+  if (flags->kind != OP_CPSFLAGS)
+    error(ir->line, "E0004", "Invalid operand type for CPS.");
+  else
+    put_cps_flags(ir, flags->value.v_str, 1);
+  if (const operand *mode = ia_op(ir, 1)) {
+    ENC_put(ir, 8, 1, 1);
+    put_mode(ir, mode);
+  }
 }
 
 // ---- Exception return and state save ------------------------------------------------

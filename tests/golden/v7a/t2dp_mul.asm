@@ -1,0 +1,55 @@
+; Thumb-2 multiplies, long multiplies, divides, DSP multiplies.
+; Written by scripts/golden/t2dp/gen.py: change the generator, not this file.
+; RUN: %s %o -v7A8
+        .thumb
+        MUL.W R0, R1, R2                        ;= fb01 f002  ; note: the references have no .W form
+        MUL R8, R9, R10                         ;= fb09 f80a
+        MLA R0, R1, R2, R3                      ;= fb01 3002
+        MLA R8, R9, R10, R11                    ;= fb09 b80a
+        MLS R1, R2, R3, R4                      ;= fb02 4113
+        MLS R12, R11, R10, R9                   ;= fb0b 9c1a
+        UMULL R0, R1, R2, R3                    ;= fba2 0103
+        UMULL R8, R9, R10, R11                  ;= fbaa 890b
+        UMLAL R0, R1, R2, R3                    ;= fbe2 0103
+        UMLAL R8, R9, R10, R11                  ;= fbea 890b
+        SMULL R0, R1, R2, R3                    ;= fb82 0103
+        SMULL R8, R9, R10, R11                  ;= fb8a 890b
+        SMLAL R0, R1, R2, R3                    ;= fbc2 0103
+        SMLAL R8, R9, R10, R11                  ;= fbca 890b
+        SMULBB R0, R1, R2                       ;= fb11 f002
+        SMLABB R8, R9, R10, R11                 ;= fb19 b80a
+        SMLALBB R1, R2, R3, R4                  ;= fbc3 1284
+        SMULBT R0, R1, R2                       ;= fb11 f012
+        SMLABT R8, R9, R10, R11                 ;= fb19 b81a
+        SMLALBT R1, R2, R3, R4                  ;= fbc3 1294
+        SMULTB R0, R1, R2                       ;= fb11 f022
+        SMLATB R8, R9, R10, R11                 ;= fb19 b82a
+        SMLALTB R1, R2, R3, R4                  ;= fbc3 12a4
+        SMULTT R0, R1, R2                       ;= fb11 f032
+        SMLATT R8, R9, R10, R11                 ;= fb19 b83a
+        SMLALTT R1, R2, R3, R4                  ;= fbc3 12b4
+        SMULWB R3, R4, R5                       ;= fb34 f305
+        SMLAWB R9, R10, R11, R12                ;= fb3a c90b
+        SMULWT R3, R4, R5                       ;= fb34 f315
+        SMLAWT R9, R10, R11, R12                ;= fb3a c91b
+        SMLAD R0, R1, R2, R3                    ;= fb21 3002
+        SMLADX R0, R1, R2, R3                   ;= fb21 3012
+        SMLSD R0, R1, R2, R3                    ;= fb41 3002
+        SMLSDX R0, R1, R2, R3                   ;= fb41 3012
+        SMMLA R0, R1, R2, R3                    ;= fb51 3002
+        SMMLAR R0, R1, R2, R3                   ;= fb51 3012
+        SMMLS R0, R1, R2, R3                    ;= fb61 3002
+        SMMLSR R0, R1, R2, R3                   ;= fb61 3012
+        SMUAD R8, R9, R10                       ;= fb29 f80a
+        SMUADX R8, R9, R10                      ;= fb29 f81a
+        SMUSD R8, R9, R10                       ;= fb49 f80a
+        SMUSDX R8, R9, R10                      ;= fb49 f81a
+        SMMUL R8, R9, R10                       ;= fb59 f80a
+        SMMULR R8, R9, R10                      ;= fb59 f81a
+        SMLALD R1, R2, R3, R4                   ;= fbc3 12c4
+        SMLALDX R1, R2, R3, R4                  ;= fbc3 12d4
+        SMLSLD R1, R2, R3, R4                   ;= fbd3 12c4
+        SMLSLDX R1, R2, R3, R4                  ;= fbd3 12d4
+        UMAAL R1, R2, R3, R4                    ;= fbe3 1264
+        USAD8 R0, R1, R2                        ;= fb71 f002
+        USADA8 R8, R9, R10, R11                 ;= fb79 b80a

@@ -1,0 +1,13 @@
+; Thumb-2 PLD and PLI. Written by scripts/golden/t2mem/gen.py.
+; RUN: %s %o -v7M3
+        .thumb
+        PLD [R0]                                ;= f890 f000
+        PLD [R1, #4095]                         ;= f891 ffff
+        PLD [R2, #-255]                         ;= f812 fcff
+        PLD [R3, #-1]                           ;= f813 fc01
+        PLD [R4, #0]                            ;= f894 f000
+        PLD [R5, R6]                            ;= f815 f006
+        PLD [R7, R8, LSL #3]                    ;= f817 f038
+        PLD [PC, #-100]                         ;= f81f f064
+        PLD [PC, #100]                          ;= f89f f064
+        PLD [SP, #-128]                         ;= f81d fc80
