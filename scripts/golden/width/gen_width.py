@@ -76,8 +76,7 @@ def main():
     args = ap.parse_args()
     for folder, option, triple, march in ARCHS:
         llvm, gnu = references(triple, march)
-        out = ["; " + h for h in HEADER] + ["; RUN: %s %o " + option,
-                                             "; XFAIL: the Thumb-2 encoders are not all on main yet", "        .thumb"]
+        out = ["; " + h for h in HEADER] + ["; RUN: %s %o " + option, "        .thumb"]
         for line, value, other in zip(LINES, llvm, gnu):
             note = ""
             if line in OWN:

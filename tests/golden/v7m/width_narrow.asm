@@ -2,7 +2,6 @@
 ; the 16-bit trial and its two-operand retry; .W keeps 32 bits.
 ; Written by scripts/golden/width/gen_width.py: change the generator, not this file.
 ; RUN: %s %o -v7M3
-; XFAIL: the Thumb-2 encoders are not all on main yet
         .thumb
         ADD R0, R0, R1             ;= 4408
         ADD R0, R1, R0             ;= 4408
