@@ -345,3 +345,52 @@ TEST_F(Width, ListingMarksAndCounters) {
 }
 
 }  // namespace
+
+namespace {
+
+// The whole choice in pass 2, with the real 16-bit encoders as the trial:
+// whether the statement narrows, and the form it is left in for its real
+// encoding (folds and the two-operand retry keep their form).
+TEST_F(Width, ChoiceInPassTwo) {
+  struct choice {
+    const char *line;
+    bool it;
+    bool narrow;
+    const char *row;
+    const char *after;   // null: the operands as parsed
+    bool two_operand;    // the retry's form was kept
+  };
+  const choice cases[] = {
+      {"andeq r0, r0, r1", true, true, "AND", "REG r0 =0 | REG r1 =1", true},
+      {"andseq r0, r0, r1", true, false, "AND", nullptr, false},
+      {"orreq r0, r1, r0", true, true, "ORR", "REG r0 =0 | REG r1 =1", true},
+      {"addeq r0, r1, r2", true, true, "ADD", nullptr, false},
+      {"addeq r0, r1, #300", true, false, "ADD", nullptr, false},
+      {"addeq r8, r8, r1", true, true, "ADD", "REG r8 =8 | REG r1 =1", false},
+      {"moveq r0, r1", true, true, "MOV", nullptr, false},
+      {"lsleq r0, r1, #2", true, true, "LSL", "REG r0 =0 | REG r1 =1 | ICON r0 =2", false},
+      {"ands r0, r1, r0", false, true, "AND", "REG r0 =0 | REG r1 =1", true},
+      {"bics r0, r1, r0", false, false, "BIC", nullptr, false},
+      {"mov r0, r1", false, true, "CPY", nullptr, false},
+      {"mov r8, r9", false, true, "CPY", nullptr, false},
+      {"movs r0, #300", false, false, "MOV", nullptr, false},
+      {"adds r0, r0, #200", false, true, "ADD", "REG r0 =0 | ICON r0 =200", true},
+      {"ldr r0, [r1, #2]", false, false, "LDR", nullptr, false},
+      {"cmp r8, r1", false, true, "CMP", nullptr, false},
+  };
+  for (const choice &c : cases) {
+    instruct *ir = thumb2(c.line, c.it);
+    const std::string before = shapes();
+    const int64_t two = num_2opnd_conv;
+    instlen = TRG_get_instlen(ir);
+    EXPECT_EQ(instlen, 4u) << c.line;
+    EXPECT_EQ(conv_32t2_to_16t(ir), c.narrow) << c.line;
+    EXPECT_EQ(instlen, c.narrow ? 2u : 4u) << c.line;
+    EXPECT_EQ(row(), c.row) << c.line;
+    EXPECT_EQ(shapes(), c.after ? c.after : before) << c.line;
+    EXPECT_EQ(num_2opnd_conv - two, c.two_operand ? 1 : 0) << c.line;
+    EXPECT_EQ(screen(), "") << c.line;
+  }
+}
+
+}  // namespace
