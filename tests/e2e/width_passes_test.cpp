@@ -20,9 +20,9 @@ constexpr const char *group[] = {
     "LDR R0, [R1, #4]",     "LDR R0, [R1, #2]",    "LDR R0, [R1, #128]",  "STRH R0, [R1, #7]",
     "PUSH {R0}",            "PUSH.W {R0}",         "POP {R8}",            "LDM R0!, {R1, R2}",
     "ITE EQ",               "ANDEQ R0, R0, R1",    "ADDNE R0, R1, #300",  "ITT NE",
-    "LSLNE R0, R1, #2",     "ORRNE R0, R1, R0",    "BEQ F%n",             "B F%n",
-    "BNE B%p",              "LDR R0, D%n",         "ADR R1, D%n",         "LDR R8, D%n",
-    "B.W F%n",              "BL B%p",
+    "LSLNE R0, R1, #2",     "ORRNE R0, R1, R0",    "BEQ FW%n",             "B FW%n",
+    "BNE BK%p",              "LDR R0, DAT%n",         "ADR R1, DAT%n",         "LDR R8, DAT%n",
+    "B.W FW%n",              "BL BK%p",
 };
 
 std::string expand(std::string text, int n) {
@@ -35,9 +35,9 @@ std::string mixed_source(int groups) {
   std::string src = " .thumb\n";
   int label = 0;
   for (int n = 0; n < groups; ++n) {
-    src += "B" + std::to_string(n) + ":\n";
+    src += "BK" + std::to_string(n) + ":\n";
     for (const char *line : group) src += " " + expand(line, n) + "\nL" + std::to_string(label++) + ":\n";
-    src += "F" + std::to_string(n) + ":\n .align 2\nD" + std::to_string(n) + ": .word 0\n";
+    src += "FW" + std::to_string(n) + ":\n .align 2\nDAT" + std::to_string(n) + ": .word 0\n";
   }
   return src;
 }
