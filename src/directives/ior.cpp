@@ -23,16 +23,14 @@ void IOR_write(IOR_STRUCT *ior, unsigned size, unsigned offset, uint32_t value) 
     error_internal(1, curline, "Out of Space in IOR");
     return;
   }
-  unsigned done = 0;
-  while (done < size) {
-    const unsigned bit = offset + done;
-    const unsigned at = bit % 8;
-    const unsigned n = std::min(8 - at, size - done);
-    const auto mask = static_cast<uint8_t>(((1u << n) - 1) << at);
-    const auto piece = static_cast<uint8_t>(((value >> done) << at) & mask);
-    uint8_t &byte = ior->ior_data[bit / 8];
-    byte = static_cast<uint8_t>((byte & ~mask) | piece);
-    done += n;
+  if (size) {
+    // Bit b lies in byte b / 8 at b % 8: the record read as a little-endian
+    // word, whatever the host's order.
+    uint8_t *d = ior->ior_data;
+    uint32_t word = uint32_t{d[0]} | uint32_t{d[1]} << 8 | uint32_t{d[2]} << 16 | uint32_t{d[3]} << 24;
+    const uint32_t mask = (size >= 32 ? ~0u : (1u << size) - 1) << offset;
+    word = (word & ~mask) | ((value << offset) & mask);
+    for (unsigned k = 0; k < 4; ++k) d[k] = static_cast<uint8_t>(word >> (8 * k));
   }
   ior->ior_length = static_cast<uint16_t>(std::max<unsigned>(ior->ior_length, offset + size));
 }
@@ -60,6 +58,13 @@ void IOR_dump(IOR_STRUCT *ior, instruct *ir, int mapping_kind) {
   if (ir) IOR_list(ior, ir->line, SCN_address());
   const unsigned count = ior->ior_length / 8;
   const bool big = curseg && curseg->scn_big_endian;
+  const uint8_t *d = ior->ior_data;
+  if (!big &&
+      SCN_insert_bytes_le(uint32_t{d[0]} | uint32_t{d[1]} << 8 | uint32_t{d[2]} << 16 | uint32_t{d[3]} << 24,
+                          count, mapping_kind)) {
+    IOR_clear(ior);
+    return;
+  }
   for (unsigned i = 0; i < count; ++i)
     SCN_insert_byte(ior->ior_data[big ? count - 1 - i : i], mapping_kind);
   IOR_clear(ior);

@@ -67,6 +67,11 @@ void SCN_align(unsigned long bits, unsigned long fill) {
   if (!curseg || curseg->scn_object->unit_size() != 8) return;
   // Byte alignment on a byte boundary is the common case of every data byte.
   if (bits == 8 && pass2 && curseg->scn_field_bits % 8 == 0) return;
+  // So is an instruction's alignment on an aligned address in a section
+  // aligned at least as much, unless pass 1 records alignments for jumps.
+  if ((bits == 16 || bits == 32) && (uint64_t{curpc} * 8 + curseg->scn_field_bits) % bits == 0 &&
+      curseg->scn_object->align() >= bits / 8 && !(pass1 && curseg->scn_jumps.head))
+    return;
   SCN_core_align(bits, fill, SCN_trg_align);
 }
 
@@ -172,6 +177,29 @@ void SCN_insert_field(unsigned bits, const INT128 &value, instruct *ir, int mapp
   INT128 v = value;
   if (bits < 128) v &= (xi_from_int(1) << static_cast<int>(bits)) - xi_from_int(1);
   insert_bits(bits, v.is_zero(), [&v](unsigned lo, unsigned n) { return bits_of(v, lo, n); }, ir, swap);
+}
+
+bool SCN_insert_bytes_le(uint32_t value, unsigned count, int mapping_kind) {
+  // What `count` SCN_insert_byte calls do, the low byte first, in a
+  // little-endian section on a byte boundary; anything else goes byte by byte.
+  if (!curseg || curseg->scn_big_endian || count == 0 || count > 4 || curseg->scn_field_bits % 8 != 0 ||
+      !SCN_room(8 * count))
+    return false;
+  TRG_add_mapping_sym(mapping_kind);
+  const uint64_t v = value & low_mask(8 * count);
+  if (curseg->scn_field_bits == 32) write_out_accumulator();
+  const unsigned space = 32 - curseg->scn_field_bits;
+  curseg->scn_field_word |= static_cast<uint32_t>(v << curseg->scn_field_bits);
+  if (8 * count <= space) {
+    curseg->scn_field_bits += 8 * count;
+    return true;
+  }
+  // The word fills up: it goes out, and the rest starts the next one.
+  curseg->scn_field_bits = 32;
+  write_out_accumulator();
+  curseg->scn_field_word = static_cast<uint32_t>(v >> space);
+  curseg->scn_field_bits = 8 * count - space;
+  return true;
 }
 
 void SCN_insert_byte(unsigned byte, int mapping_kind) {

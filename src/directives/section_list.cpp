@@ -238,7 +238,9 @@ bool SCN_iscomdat(section_record *section) {
     }
     return false;
   }
-  const OFE::ELF_SECTION *elf = elf_of(section);
+  // An ELF object's sections are ELF sections: no run-time type test on
+  // each relocatable operand.
+  const OFE::ELF_SECTION *elf = section->scn_object ? section->scn_object->elf_api() : nullptr;
   if (!elf || !(elf->sh_flags() & OFE::SHF_GROUP) || !section->scn_group_name) return false;
   const section_record *group = SCN_query(section->scn_group_name);
   return group && group->scn_group_kind == 1;

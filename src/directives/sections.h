@@ -126,6 +126,10 @@ uint32_t SCN_address();
 // mapping_kind: 0 data, 1 code, 2 neither (alignment fill).
 void SCN_insert_field(unsigned bits, const INT128 &value, instruct *ir, int mapping_kind, bool swap);
 void SCN_insert_byte(unsigned byte, int mapping_kind);
+// `count` (1 to 4) bytes of value, the low byte first, as SCN_insert_byte
+// would put them, in a little-endian section on a byte boundary; false
+// (nothing done) otherwise.
+bool SCN_insert_bytes_le(uint32_t value, unsigned count, int mapping_kind);
 void SCN_align_field(unsigned bits);
 void SCN_emit_raw(unsigned size, uint32_t word);
 // Zero words written at once: the accumulator must be empty or hold a whole word.

@@ -173,6 +173,7 @@ void IR_drop(instruct *ir) {
 void IR_free(instruct *ir) {
   if (!ir) return;
   for (operand *&slot : ir->oprnds) {
+    if (!slot) continue;
     IR_free_oprnd(slot);
     slot = nullptr;
   }

@@ -21,8 +21,17 @@ lst_group *lastlst = nullptr;
 
 namespace {
 
+// Released groups, kept for reuse: every statement makes one.
+lst_group *spare_groups = nullptr;
+
 lst_group *new_group() {
-  auto *g = new lst_group{nullptr, nullptr, nullptr};
+  lst_group *g = spare_groups;
+  if (g) {
+    spare_groups = g->next;
+    *g = lst_group{nullptr, nullptr, nullptr};
+  } else {
+    g = new lst_group{nullptr, nullptr, nullptr};
+  }
   if (lastlst) lastlst->next = g;
   else curlst = g;
   lastlst = g;
@@ -61,11 +70,12 @@ void free_line(linebuf *line) {
     inbuf_len = 0;
   }
   if (curline == line) curline = nullptr;
-  LSTOBJ_free(line->object);
+  if (line->object) LSTOBJ_free(line->object);
   if (line->text != line->source_text) std::free(line->text);
   std::free(line->source_text);
-  std::free(line->expanded_text);
-  for (char *m : line->messages) std::free(m);
+  if (line->expanded_text) std::free(line->expanded_text);
+  for (char *m : line->messages)
+    if (m) std::free(m);
   line->next = spare_lines;
   spare_lines = line;
 }
@@ -202,7 +212,8 @@ void LST_free() {
     free_line(line);
     line = next;
   }
-  delete g;
+  g->next = spare_groups;
+  spare_groups = g;
 }
 
 void LST_clear() {

@@ -8,7 +8,9 @@ namespace OFE {
 
 ELF_RELOC::ELF_RELOC(ELF_RELOC_TABLE *table, unsigned id) : OF_RELOC(table, id) {}
 
-ELF_RELOC_TABLE *ELF_RELOC::elf_table() const { return dynamic_cast<ELF_RELOC_TABLE *>(table()); }
+// The constructor's table, never replaced: no run-time type test on each
+// change of a relocation.
+ELF_RELOC_TABLE *ELF_RELOC::elf_table() const { return static_cast<ELF_RELOC_TABLE *>(table()); }
 
 bool ELF_RELOC::begin_change()
 {

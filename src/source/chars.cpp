@@ -80,6 +80,9 @@ void skip_to_nextch() {
   // Past a blank the reader is never in the first column, so of the comment
   // rules of nextch only ';' applies, and only to the character that ends the run.
   auto i = static_cast<uint32_t>(chpos) + 1;
+  // Indentation and column alignment are runs of blanks: eight at a time.
+  constexpr uint64_t blanks = 0x2020202020202020ull;
+  for (uint64_t word; i + 8 <= inbuf_len && (std::memcpy(&word, inbuf + i, 8), word == blanks);) i += 8;
   while (i < inbuf_len && LEX_char_class[static_cast<unsigned char>(inbuf[i])] == CH_SPACE) ++i;
   chpos = static_cast<int32_t>(i) - 1;
   getch();

@@ -33,7 +33,8 @@ void append_number(std::string &name, const char *fmt, int32_t n) {
 token *LEX_ident(int32_t column) {
   std::string &name = name_buffer();
   name.clear();
-  if (ch == '.') {
+  const bool dot = ch == '.';
+  if (dot) {
     name += '.';
     getch();
   }
@@ -46,6 +47,17 @@ token *LEX_ident(int32_t column) {
       const uint8_t k = LEX_char_class[static_cast<unsigned char>(c)];
       if (k != CH_ALPHA && k != CH_DIGIT && c != '\'') break;
       ++end;
+    }
+    // Most names are plain: no '$' in front, no '?' behind. They go from the
+    // line into the token at once (the dot stands right before the run).
+    if ((dot || inbuf[start] != '$') && !(end < inbuf_len && inbuf[end] == '?')) {
+      const uint32_t from = dot ? start - 1 : start;
+      chpos = static_cast<int32_t>(end) - 1;
+      getch();
+      token *tk = LEX_newtkn(TK_IDENT, column);
+      tk->length = end - from;
+      LEX_set_text(tk, std::string_view(inbuf + from, end - from));
+      return tk;
     }
     name.append(inbuf + start, end - start);
     chpos = static_cast<int32_t>(end) - 1;

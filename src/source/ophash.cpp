@@ -10,6 +10,7 @@
 #include "target/arm/opcodes.h"
 
 ophashtbl *ophash[HASH_SIZE + 1] = {};
+uint32_t ophash_generation = 0;
 
 int hash(const std::string &s) { return static_cast<int>(hash_full(s) % HASH_SIZE); }
 
@@ -27,6 +28,7 @@ ophashtbl *entophash(ophashtbl *entry) {
   const int h = hash(entry->name);
   entry->next = ophash[h];
   ophash[h] = entry;
+  ++ophash_generation;
   return entry;
 }
 
@@ -41,6 +43,7 @@ void delophash(ophashtbl *entry) {
   for (ophashtbl **link = &ophash[hash(entry->name)]; *link; link = &(*link)->next) {
     if (*link == entry) {
       *link = entry->next;
+      ++ophash_generation;
       delete entry;
       return;
     }

@@ -31,6 +31,9 @@ struct ophashtbl {
 };
 
 extern ophashtbl *ophash[HASH_SIZE + 1];
+// Counts the changes of the table: what was found by name before holds
+// while it is the same.
+extern uint32_t ophash_generation;
 
 // The one hash of the system (also for names and tagnames): 0..5002.
 int hash(const std::string &s);

@@ -24,7 +24,7 @@ class GoldenGenerator : public ZqDirFixture {
 // Files of the architecture folders that scripts/golden/<name>/gen.py writes
 // carry the prefix "<name>_" (and say which generator wrote them); the others
 // are gen.py's own.
-constexpr const char *SUB_GENERATORS[] = {"t2mem"};
+constexpr const char *SUB_GENERATORS[] = {"t2mem", "t2dp"};
 
 // The files of the architecture folders, relative to `root`: those of the
 // sub-generator `sub`, or with none, those of gen.py.
@@ -57,11 +57,6 @@ TEST_F(GoldenGenerator, UnitTests) {
 TEST_F(GoldenGenerator, CorpusIsTheGeneratorsOutput) {
   const ZqRun r = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/gen.py --out out --review review.txt");
   ASSERT_EQ(r.status, 0) << r.err;
-  // Families with a generator of their own write beside it.
-  for (const char *family : {"t2dp"}) {
-    const ZqRun f = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/" + family + "/gen.py --out out");
-    ASSERT_EQ(f.status, 0) << family << ": " << f.err;
-  }
   const fs::path checked_in = fs::path(ZQ_SOURCE_DIR) / "tests" / "golden";
   const std::vector<std::string> made = generated_files(path("out"));
   EXPECT_EQ(made, generated_files(checked_in));
@@ -81,15 +76,19 @@ TEST_F(GoldenGenerator, SubCorporaAreTheirGeneratorsOutput) {
   const fs::path checked_in = fs::path(ZQ_SOURCE_DIR) / "tests" / "golden";
   for (const std::string sub : SUB_GENERATORS) {
     const std::string out = "out_" + sub;
+    // A generator that keeps a review list writes it beside its output.
+    const fs::path review = fs::path(ZQ_SOURCE_DIR) / "scripts" / "golden" / sub / "review.txt";
+    const bool reviewed = fs::exists(review);
     const ZqRun r = sh("PYTHONDONTWRITEBYTECODE=1 python3 " + scripts_ + "/" + sub + "/gen.py --out " + out +
-                       " --review review_" + sub + ".txt");
+                       (reviewed ? " --review review_" + sub + ".txt" : std::string()));
     ASSERT_EQ(r.status, 0) << r.err;
     const std::vector<std::string> made = generated_files(path(out), sub);
     EXPECT_EQ(made, generated_files(checked_in, sub));
     for (const std::string &f : made)
       EXPECT_TRUE(slurp(path(out) / f) == slurp(checked_in / f)) << f << " differs from a fresh run of " << sub;
-    EXPECT_EQ(get("review_" + sub + ".txt"),
-              slurp(fs::path(ZQ_SOURCE_DIR) / "scripts" / "golden" / sub / "review.txt"));
+    if (reviewed) {
+      EXPECT_EQ(get("review_" + sub + ".txt"), slurp(review));
+    }
   }
 }
 

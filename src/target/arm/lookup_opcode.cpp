@@ -2,6 +2,7 @@
 // (cut from its condition and modifier letters), macro or built-in function.
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,7 @@
 #include "source/lexer.h"
 #include "source/lexer_internal.h"
 #include "source/ophash.h"
+#include "target/arm/arch.h"
 #include "target/arm/opcodes.h"
 #include "target/arm/parse.h"
 #include "target/arm/trg.h"
@@ -69,15 +71,60 @@ ophashtbl *prefix_search(std::string_view base, std::string_view name, size_t *l
 
 }  // namespace
 
-void lookup_opcode() {
-  if (!curtk || curtk->kind != TK_IDENT || !curtk->value.sval) return;
-  cur_ual_translation = nullptr;
-  cur_mext_prefix[0] = '\0';
+namespace {
+
+// What the lookup found for one word in one setting: the statement loop asks
+// for the same few words again and again. A memo is valid while the state,
+// the unified mode, the architecture and the opcode table are what they were.
+struct lookup_memo {
+  static constexpr size_t MAX_WORD = 23;
+  char word[MAX_WORD + 1];                 // the word as given
+  char rest[MAX_WORD + 1];                 // the letters behind the mnemonic
+  uint8_t length = 0;
+  uint8_t rest_length = 0;
+  uint8_t head = 0;                        // given letters of the mnemonic, 0: not split
+  uint8_t encode_state = 0;
+  bool ual = false;
+  bool valid = false;
+  char mext[3] = {};
+  uint32_t state = 0;
+  uint32_t arch = 0;
+  uint32_t generation = 0;
+  ophashtbl *entry = nullptr;              // null: not an opcode
+  const ual_name_translation *translation = nullptr;
+};
+
+constexpr size_t MEMO_SIZE = 256;
+lookup_memo memos[MEMO_SIZE];
+
+lookup_memo *memo_slot(std::string_view word) {
+  uint32_t h = 2166136261u;
+  for (char c : word) h = (h ^ static_cast<uint8_t>(c)) * 16777619u;
+  return &memos[(h ^ (h >> 16)) % MEMO_SIZE];
+}
+
+bool memo_matches(const lookup_memo &m, std::string_view word) {
+  return m.valid && m.generation == ophash_generation && m.state == cur_state && m.ual == (ual_mode != 0) &&
+         m.arch == arm_arch() && std::string_view(m.word, m.length) == word;
+}
+
+// Pushes back the letters behind the mnemonic as their own token.
+void split_word(std::string_view rest, size_t head) {
+  token *tk = LEX_newtkn(TK_OPCODE_REST, curtk->column + static_cast<int32_t>(head));
+  tk->line = curtk->line;
+  LEX_set_text(tk, rest);
+  tk->length = static_cast<uint32_t>(rest.size());
+  curtk->length = static_cast<uint32_t>(head);
+  unget_token(&tk);
+}
+
+// The word's entry by the tables, with the rest of the word pushed back;
+// null when it is no opcode. *rest and *head tell the split for the memo.
+ophashtbl *search(std::string_view given, std::string_view *rest, size_t *head) {
   // Reused for every statement: no allocation on the way, and no copy of a
   // name that needs no translation.
   static std::string name_buf;
   static std::string rest_buf;
-  const std::string_view given(curtk->value.sval);
   const std::string_view name = translated(given, &name_buf);
 
   ophashtbl *entry = direct_search(name);
@@ -91,19 +138,57 @@ void lookup_opcode() {
       if (is_mnemonic(e)) entry = e;
     }
   }
+  if (entry) return entry;
+  size_t n = 0;
+  entry = prefix_search(base, name, &n);
+  if (!entry) return nullptr;  // a label or an unknown word stays an identifier
+  *rest = base.substr(n);
+  *head = given.size() > rest->size() ? given.size() - rest->size() : given.size();
+  split_word(*rest, *head);
+  return entry;
+}
 
-  if (!entry) {
-    size_t n = 0;
-    entry = prefix_search(base, name, &n);
-    if (!entry) return;  // a label or an unknown word stays an identifier
-    const std::string_view rest = base.substr(n);
-    const size_t head = given.size() > rest.size() ? given.size() - rest.size() : given.size();
-    token *tk = LEX_newtkn(TK_OPCODE_REST, curtk->column + static_cast<int32_t>(head));
-    tk->line = curtk->line;
-    LEX_set_text(tk, rest);
-    tk->length = static_cast<uint32_t>(rest.size());
-    curtk->length = static_cast<uint32_t>(head);
-    unget_token(&tk);
+}  // namespace
+
+void lookup_opcode() {
+  if (!curtk || curtk->kind != TK_IDENT || !curtk->value.sval) return;
+  cur_ual_translation = nullptr;
+  cur_mext_prefix[0] = '\0';
+  const std::string_view given(curtk->value.sval);
+
+  ophashtbl *entry = nullptr;
+  lookup_memo *memo = given.size() <= lookup_memo::MAX_WORD ? memo_slot(given) : nullptr;
+  if (memo && memo_matches(*memo, given)) {
+    entry = memo->entry;
+    encode_state = memo->encode_state;
+    cur_ual_translation = memo->translation;
+    std::memcpy(cur_mext_prefix, memo->mext, sizeof cur_mext_prefix);
+    if (!entry) return;
+    if (memo->head) split_word(std::string_view(memo->rest, memo->rest_length), memo->head);
+  } else {
+    std::string_view rest;
+    size_t head = 0;
+    entry = search(given, &rest, &head);
+    // A word whose translation warned is looked up afresh each time, so
+    // that each use warns.
+    const bool warned = cur_ual_translation && !cur_ual_translation->old_name;
+    if (memo && !warned && rest.size() <= lookup_memo::MAX_WORD) {
+      memo->valid = true;
+      std::memcpy(memo->word, given.data(), given.size());
+      memo->length = static_cast<uint8_t>(given.size());
+      if (!rest.empty()) std::memcpy(memo->rest, rest.data(), rest.size());
+      memo->rest_length = static_cast<uint8_t>(rest.size());
+      memo->head = static_cast<uint8_t>(head);
+      memo->encode_state = static_cast<uint8_t>(encode_state);
+      memo->ual = ual_mode != 0;
+      std::memcpy(memo->mext, cur_mext_prefix, sizeof memo->mext);
+      memo->state = cur_state;
+      memo->arch = arm_arch();
+      memo->generation = ophash_generation;
+      memo->entry = entry;
+      memo->translation = cur_ual_translation;
+    }
+    if (!entry) return;
   }
   // The data-type suffixes stand behind the whole word, also behind letters
   // (VMULL.S16).
