@@ -107,7 +107,7 @@ class ElfFile {
         {5, "R_ARM_ABS16"},        {10, "R_ARM_THM_CALL"},   {28, "R_ARM_CALL"},        {29, "R_ARM_JUMP24"},
         {30, "R_ARM_THM_JUMP24"},  {38, "R_ARM_TARGET1"},    {41, "R_ARM_TARGET2"},     {42, "R_ARM_PREL31"},
         {43, "R_ARM_MOVW_ABS_NC"}, {44, "R_ARM_MOVT_ABS"},   {47, "R_ARM_THM_MOVW_ABS_NC"},
-        {48, "R_ARM_THM_MOVT_ABS"},
+        {48, "R_ARM_THM_MOVT_ABS"}, {51, "R_ARM_THM_JUMP19"},
     };
     for (auto &r : names)
       if (r.n == type) return r.name;

@@ -11,11 +11,7 @@
 #include "support/fhm.h"
 #include "target/arm/trg.h"
 
-// ---- Mapping symbols and build attributes (mapping symbols step) --------------------
-// Without instructions every section holds data only; a reader takes such a
-// section as data without mapping symbols, and no attributes are claimed.
+// ---- Build attributes (mapping symbols step) -------------------------------------
+// No attributes are claimed yet.
 
-void TRG_signal_section_change() {}
-void TRG_add_mapping_sym(int) {}
-void TRG_dump_mapping_syms() {}
 void TRG_gen_build_attributes() {}

@@ -5,7 +5,7 @@
         .text
         add     r0, r1, r2
         .thumb
-        it      eq              ;! E0002 Encoding of IT is not supported yet
+        it      eq
         addsne  r0, r0, #1      ;! W0004 Incorrect condition code inside of IT block
         vadd.f32 s0, s1, s2     ;! E0002 Encoding of FADDS is not supported yet
         frobnicate r0           ;! E0002 Illegal mnemonic specified
