@@ -24,9 +24,9 @@ constexpr const char *narrowing[] = {
 
 // IT blocks and the statements whose length depends on a label.
 constexpr const char *blocks_and_branches[] = {
-    "ITE EQ",      "ANDEQ R0, R0, R1", "ADDNE R0, R1, #300", "ITT NE",        "LSLNE R0, R1, #2",
+    "CBZ R0, FW%n", "ITE EQ",      "ANDEQ R0, R0, R1", "ADDNE R0, R1, #300", "ITT NE",        "LSLNE R0, R1, #2",
     "ORRNE R0, R1, R0", "BEQ FW%n",    "B FW%n",             "BNE BK%n",      "ADR R1, DAT%n",
-    "ADR R8, DAT%n", "B.W FW%n",       "BL BK%p",            "CBZ R0, FW%n",
+    "ADR R8, DAT%n", "B.W FW%n",       "BL BK%p",
 };
 
 std::string expand(std::string text, int n) {
