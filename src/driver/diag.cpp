@@ -125,7 +125,8 @@ void warn(linebuf *line, const char *id, const char *fmt, ...) {
       ++num_errors;
       emit_checked(SEV_ERROR, line, id, fmt, ap);
     }
-  } else if (!warnings_off()) {
+  } else if (!warnings_off() || !output_error) {
+    // A trial encoding counts its warnings also under --no_warnings.
     if (TRG_warn()) {
       ++num_warnings;
       emit_checked(SEV_WARNING, line, id, fmt, ap);

@@ -107,9 +107,10 @@ void add_sp_immediate(instruct *ir, const operand *x) {
 bool is_row(const instruct *ir, const char *name) { return std::strcmp(ia_row(ir)->name, name) == 0; }
 
 // LSL, LSR, ASR by an immediate: the register form's opcode (2, 3, 4 in
-// bits 6 to 9) less 2 is the shift type of the immediate form.
+// bits 6 to 9) less 2 is the shift type of the immediate form. It is read
+// from the row: a trial encoding writes no bits to read back.
 void shift_immediate(instruct *ir, const operand *amount) {
-  const uint32_t type = ((ENC_word(ir) >> 6) & 0xF) - 2;
+  const uint32_t type = ((ia_opcode(ir) >> 6) & 0xF) - 2;
   ENC_clear(ir, 1u << 14);
   ENC_put(ir, 11, 2, type);
   if (amount->kind != OP_ICON) {

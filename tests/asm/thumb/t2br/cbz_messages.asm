@@ -10,7 +10,7 @@ back:   CBZ     R8, fwd         ;! E0004 Register out of range.  Must be R0-R7
 fwd:    CBZ     R5, 128         ;! E0200 Offset to label must be an even number in the range 0 to 126
         CBNZ    R6, -2          ;! E0200 Offset to label must be an even number in the range 0 to 126
         CBNZ    R7, 126
-        CZB     R6, fwd2        ;! W0005 Non-UAL opcode used in UAL mode ;! E0004 The condition must be EQ or NE
+        CZB     R6, fwd2        ;! W0005 Non-UAL opcode used in UAL mode ;! E0004 The condition must be EQ or NE ;! E0200 Offset to label must be an even number in the range 0 to 126
 fwd2:   .half   0
         .sect   ".text.b"
 other:  .half   0
