@@ -7,6 +7,7 @@
 #include "directives/sections.h"
 #include "driver/diag.h"
 #include "driver/records.h"
+#include "expr/reloc.h"
 #include "ofe/of_reloc_type.h"
 #include "target/arm/arch.h"
 #include "target/arm/checks.h"
@@ -68,14 +69,19 @@ void put_offset(instruct *ir, operand *op, uint32_t start, unsigned at, unsigned
 }
 
 // A branch with link in two halfwords `at` bytes after the start; the second
-// halfword stays in the statement. The relocation goes on the first.
-void link_pair(instruct *ir, operand *op, uint32_t start, unsigned at, bool exchange, const int *chained) {
+// halfword stays in the statement. The relocation goes on the first. A call
+// is always relocated; the long form of a pseudo-branch (`jump`) only when its
+// target lies outside the section: a local label isn't marked as Thumb code,
+// and the linker would make the pair a call into ARM state.
+void link_pair(instruct *ir, operand *op, uint32_t start, unsigned at, bool exchange, const int *chained,
+               bool jump = false) {
   int32_t offset = 0;
   if (chained) {
     operand *shifted = T16_icon((static_cast<int64_t>(*chained) - at / 2) * 2);
     offset = static_cast<int32_t>(ENC_range(ir, shifted, 1, LINK_FIELD_BITS, true));
   } else {
-    offset = T16_branch_field(ir, op, start + at, LINK_FIELD_BITS, OFE::OFR_ARM_THM_CALL);
+    const bool relocated = !jump || OPND_requires_reloc(op);
+    offset = T16_branch_field(ir, op, start + at, LINK_FIELD_BITS, relocated ? uint32_t{OFE::OFR_ARM_THM_CALL} : 0u);
   }
   uint16_t halves[2];
   T16_link_halves(offset, exchange, halves);
@@ -103,14 +109,14 @@ void branch_by_length(instruct *ir, operand *op, bool link_forms) {
     return;
   }
   if (link_forms && !k.conditional && instlen == 4) {
-    link_pair(ir, op, start, 0, false, chained);
+    link_pair(ir, op, start, 0, false, chained, true);
     return;
   }
   // The first halfword jumps over the rest on the inverted condition; with
   // AL written there is nothing to skip on, and it does nothing.
   T16_emit_leading_half(ir, k.cond_valid ? T16_skip_half(ir->ia_cond, instlen) : NOP_MOV_R8);
   if (link_forms && instlen >= 6) {
-    link_pair(ir, op, start, 2, false, chained);
+    link_pair(ir, op, start, 2, false, chained, true);
     return;
   }
   ENC_set(ir, B_UNCOND);

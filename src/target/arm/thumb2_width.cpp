@@ -64,9 +64,14 @@ void record_jump(const instruct *ir, JUMP_LIST_TYPE kind, const operand *target,
 }
 
 // BT and BQ may name their longest chain; the option gives the default.
+// The class reads its operands as expressions, so a plain number comes as a
+// symbol operand with an integer value.
 int32_t chain_limit_of(const instruct *ir) {
-  const operand *limit = op_of_kind(ir, 1, OP_ICON);
-  return limit ? limit->value.v_val.to_i32() : max_branch_chain_length;
+  const operand *limit = ia_op(ir, 1);
+  if (!limit || (limit->kind != OP_ICON && limit->kind != OP_SYMBOL) || !is_int_type(limit->value.v_type) ||
+      is_relocatable(limit->value))
+    return max_branch_chain_length;
+  return limit->value.v_val.to_i32();
 }
 
 // The 16-bit branches of both Thumb states whose first operand is a label.

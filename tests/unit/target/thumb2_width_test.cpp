@@ -26,7 +26,9 @@ class Width : public ParseTest {
     }
     instruct *ir = parse(line);
     // Only the undefined label may draw a message.
-    if (!std::strstr(line, "lab")) EXPECT_EQ(screen(), "") << line;
+    if (!std::strstr(line, "lab")) {
+      EXPECT_EQ(screen(), "") << line;
+    }
     return ir;
   }
   std::string shapes() const {

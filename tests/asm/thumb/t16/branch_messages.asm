@@ -18,7 +18,7 @@
         bl      0x400000                ;! E0200 Offset out of range, must be [-4194304,4194303]
         bleq    here                    ;! W0004 Invalid instruction modifier(s) ignored
         blx     r0!                     ;! W0000 Operand modifiers ignored
-        br      ext                     ;! E0001 Address must be defined in the current section
+        br      ext                     ; 4 bytes: a relocated branch with link pair
         cret    other                   ;! E0001 Address must be defined in the current section
 here:   nop
         .data
