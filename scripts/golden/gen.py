@@ -119,14 +119,8 @@ STATE_DIRECTIVE = {'thumb_state16': '.state16'}
 # Families this assembler cannot encode yet on main: the runner reports their
 # findings without failing. A mark goes as soon as its family lands.
 XFAIL = {}
-_T2BR = 'the Thumb-2 branch and IT encoders are not on main yet'
-_WIDTH = 'the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide'
-# Thumb files of the Thumb-2 architectures (plain Thumb passes everywhere).
-XFAIL_T2 = {'thumb_arith': _WIDTH, 'thumb_alu': _WIDTH, 'thumb_ldst': _WIDTH, 'thumb_ldm': _WIDTH,
-            'thumb_misc': _WIDTH, 'thumb_ldst32': _WIDTH, 'thumb_ldm32': _WIDTH, 'thumb_media': _WIDTH,
-            'thumb_branch': _T2BR, 'thumb_branch32': _T2BR, 'thumb_it': _T2BR, 'thumb_czb': _T2BR,
-            'thumb_system': _T2BR, 'thumb_width': _T2BR + '; ' + _WIDTH,
-            'thumb_branch_label': 'jump expansion is not on main yet'}
+# Thumb files of the Thumb-2 architectures that main cannot encode yet.
+XFAIL_T2 = {}
 
 
 def resolve(ref, pc, labels, tool):

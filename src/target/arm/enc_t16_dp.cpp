@@ -128,6 +128,27 @@ void shift_immediate(instruct *ir, const operand *amount) {
   T16_unsigned_field(ir, T16_icon(n, amount->op_mods), 6, 5);
 }
 
+// MOV Rd, Rm, LSL/LSR/ASR #n: the unified shift names read as a MOV reach the
+// 16-bit slot this way (with .N); it is the shift-by-immediate form.
+void mov_shifted(instruct *ir, const operand *rd, const operand *rm) {
+  const uint32_t type = rm->op_shift;
+  ENC_put(ir, 11, 2, type);
+  if (T16_low_reg(ir, rd, DEST_RD_HI)) ENC_put(ir, 0, 3, rd->op_reg);
+  if (rm->op_reg > 7)
+    error(ir->line, "E0004", "%s", RS_HI);
+  else
+    ENC_put(ir, 3, 3, rm->op_reg);
+  int64_t n = ENC_value(rm);
+  if (type != SHIFT_LSL) {
+    if (n == 0) {
+      error(ir->line, "E0004", "%s Shift count must lie between 1 and 32", type == SHIFT_LSR ? "LSR" : "ASR");
+      return;
+    }
+    if (n == 32) n = 0;
+  }
+  T16_unsigned_field(ir, T16_icon(n, rm->op_mods), 6, 5);
+}
+
 constexpr char CPS_LETTERS[] = "FIA";   // bits 0, 1, 2
 constexpr unsigned CPS_MAX_FLAGS = 3;
 
@@ -234,6 +255,10 @@ void encode_t_mov(instruct *ir) {
       ir->ia_flags &= ~IF_S;
     }
     put_hi_pair(ir, MOV_HI, rd, rs);
+    return;
+  }
+  if (rs && rs->kind == OP_SHIFTREGI && rs->op_shift <= SHIFT_ASR) {
+    mov_shifted(ir, rd, rs);
     return;
   }
   if (is_illegal_imm(ir, rs)) return;

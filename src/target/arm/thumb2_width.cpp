@@ -139,8 +139,17 @@ bool is_thumb2_32bit_dp_ins(const inst_class *cls) {
 
 bool in_it_block() { return cur_it_string[0] == 'T' || cur_it_string[0] == 'E'; }
 
+// A target written as a plain number is the offset itself: its length is
+// known at once and the trial decides it. Anything naming a symbol waits for
+// jump expansion, in both passes alike.
+bool names_a_symbol(const operand *op) {
+  const value_record &v = op->value;
+  return v.v_symbol || v.v_rel || !is_int_type(v.v_type);
+}
+
 bool variable_length_t2_ins(const instruct *ir, JUMP_LIST_TYPE *kind) {
   if (!thumb_2_state_32bit_insn(ir) || (ir->ia_flags & IF_WIDE)) return false;
+  if (const operand *x = length_operand(ir); !x || !names_a_symbol(x)) return false;
   const mnemonic_row *row = ia_row(ir);
   // Only the word load and ADR have a 16-bit form that reaches a label.
   const inst_class *narrow = row->slot[STATE_THUMB16].cls;

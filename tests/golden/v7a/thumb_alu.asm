@@ -1,7 +1,6 @@
 ; 16-bit ALU instructions, shifts, compares and moves.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         ANDS    R0, R7                          ;= 4038
         ANDS.N  R0, R7                          ;= 4038

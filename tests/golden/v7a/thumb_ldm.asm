@@ -1,7 +1,6 @@
 ; 16-bit PUSH, POP, LDM and STM.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         PUSH    {R0}                            ;= b401
         PUSH.N  {R0}                            ;= b401

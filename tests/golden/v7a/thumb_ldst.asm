@@ -1,7 +1,6 @@
 ; 16-bit loads and stores: immediate and register offsets, SP and PC bases.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         LDR     R6, [R5, #0]                    ;= 682e
         LDR.N   R6, [R5, #0]                    ;= 682e

@@ -1,7 +1,6 @@
 ; Thumb-2 loads and stores: every addressing mode, T forms, doublewords.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         LDR     R14, [R9, #0]                   ;= f8d9 e000
         LDR.W   R1, [R3, #0]                    ;= f8d3 1000

@@ -1,7 +1,6 @@
 ; Thumb-2 parallel arithmetic, saturation, packing, extends, reversal, bit fields, CLZ.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         SADD16  R4, R8, R3                      ;= fa98 f403
         SADD16  R0, R14, R12                    ;= fa9e f00c

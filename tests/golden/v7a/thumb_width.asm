@@ -1,7 +1,6 @@
 ; Unsuffixed lines, outside and inside IT blocks: the narrow encoding where it means the same.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7A8
-; XFAIL: the Thumb-2 branch and IT encoders are not on main yet; the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         ADD     R4, R4, R2                      ;= 4414
         ADD     R1, R1, R4                      ;= 4421

@@ -1,7 +1,6 @@
 ; Thumb-2 branches with plain-number offsets (the offset itself), BXJ.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M4
-; XFAIL: the Thumb-2 branch and IT encoders are not on main yet
         .thumb
         B.W     0                               ;= f000 b800
         BL      0                               ;= f000 f800

@@ -1,7 +1,6 @@
 ; Thumb-2 loads and stores: every addressing mode, T forms, doublewords.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M4
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         LDR     R7, [R4, #0]                    ;= 6827
         LDR.W   R1, [R4, #0]                    ;= f8d4 1000

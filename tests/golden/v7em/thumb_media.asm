@@ -1,7 +1,6 @@
 ; Thumb-2 parallel arithmetic, saturation, packing, extends, reversal, bit fields, CLZ.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M4
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         SADD16  R11, R6, R8                     ;= fa96 fb08
         SADD16  R0, R14, R12                    ;= fa9e f00c

@@ -1,7 +1,6 @@
 ; CBZ and CBNZ over their whole range.
 ; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
 ; Targets are plain numbers: the offset itself.
-; XFAIL: IT and CBZ are 16 bits once the width step lands
 ; RUN: %s %o -v7M3 -mt
         .thumb
         CBZ     R0, 0                   ;= b100

@@ -1,6 +1,5 @@
 ; IT with every mask, each block filled with NOP.W of its conditions.
 ; Written by scripts/golden/t2br.py from llvm-mc, cross-checked with arm-none-eabi-as.
-; XFAIL: IT and CBZ are 16 bits once the width step lands
 ; RUN: %s %o -v7M3 -mt
         .thumb
         IT      EQ                      ;= bf08

@@ -1,7 +1,6 @@
 ; Thumb-2 LDM, STM, PUSH and POP.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M3
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         LDM     R2!, {R0, R1}                   ;= ca03
         LDM     R2, {R0, R1}                    ;= e892 0003

@@ -1,7 +1,6 @@
 ; Thumb-2 parallel arithmetic, saturation, packing, extends, reversal, bit fields, CLZ.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M3
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         SXTB    R10, R2                         ;= fa4f fa82
         SXTB    R14, R8, ROR #8                 ;= fa4f fe98

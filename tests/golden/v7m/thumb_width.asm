@@ -1,7 +1,6 @@
 ; Unsuffixed lines, outside and inside IT blocks: the narrow encoding where it means the same.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7M3
-; XFAIL: the Thumb-2 branch and IT encoders are not on main yet; the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         ADD     R2, R2, R0                      ;= 4402
         ADD     R5, R5, R6                      ;= 4435

@@ -1,7 +1,6 @@
 ; Branches, ADR and loads of labels: the length follows the distance.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: jump expansion is not on main yet
         .thumb
 back
         MOVS    R0, #1                          ;= 2001

@@ -1,7 +1,6 @@
 ; 16-bit loads and stores: immediate and register offsets, SP and PC bases.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         LDR     R2, [R3, #0]                    ;= 681a
         LDR.N   R2, [R3, #0]                    ;= 681a

@@ -1,7 +1,6 @@
 ; Thumb-2 parallel arithmetic, saturation, packing, extends, reversal, bit fields, CLZ.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         SADD16  R1, R2, R7                      ;= fa92 f107
         SADD16  R0, R14, R12                    ;= fa9e f00c

@@ -1,7 +1,6 @@
 ; SVC, BKPT, NOP, hints, extends, byte reversal, CPS and SETEND in 16 bits.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         SVC     #0                              ;= df00
         SVC.N   #0                              ;= df00

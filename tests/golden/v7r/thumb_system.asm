@@ -1,7 +1,6 @@
 ; PSR moves, CPS, barriers, hints, SVC, SMC, SRS, RFE, security extension.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 branch and IT encoders are not on main yet
         .thumb
         MRS     R0, CPSR                        ;= f3ef 8000
         MRS     R1, SPSR                        ;= f3ff 8100

@@ -1,7 +1,6 @@
 ; Unsuffixed lines, outside and inside IT blocks: the narrow encoding where it means the same.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v7R4
-; XFAIL: the Thumb-2 branch and IT encoders are not on main yet; the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         ADD     R5, R5, R6                      ;= 4435
         ADD     R3, R3, R6                      ;= 4433

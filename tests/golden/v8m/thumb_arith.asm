@@ -1,7 +1,6 @@
 ; ADD and SUB in 16 bits: registers, immediates, SP and PC forms, high registers.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v8M33
-; XFAIL: the Thumb-2 width choice is not on main yet: unsuffixed narrow lines come out wide
         .thumb
         ADDS    R0, R7, R0                      ;= 1838
         ADDS.N  R0, R7, R0                      ;= 1838

@@ -1,7 +1,6 @@
 ; Branches with plain-number offsets (the offset itself), BX and BLX.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v8M33
-; XFAIL: the Thumb-2 branch and IT encoders are not on main yet
         .thumb
         B       0                               ;= e000
         B.N     0                               ;= e000

@@ -1,7 +1,6 @@
 ; CBZ and CBNZ with labels at every distance they reach.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v8M33
-; XFAIL: the Thumb-2 branch and IT encoders are not on main yet
         .thumb
         CBZ     R0, z0                          ;= b100
         MOVS    R6, #6                          ;= 2606

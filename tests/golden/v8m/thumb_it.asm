@@ -1,7 +1,6 @@
 ; IT with every mask and condition, and the instructions of its block.
 ; Written by scripts/golden/gen.py: change the generator, not this file.
 ; RUN: %s %o -v8M33
-; XFAIL: the Thumb-2 branch and IT encoders are not on main yet
         .thumb
         IT      EQ                              ;= bf08
         BEQ     8                               ;= e004

@@ -1,7 +1,6 @@
 ; Plain Thumb functions whose branches reach across large gaps: the long
 ; forms that jump expansion chooses, with the labels and alignments behind
 ; them, and a chain of pseudo-branches.
-; XFAIL: the long forms are relocated against labels with no Thumb mark, and the linker turns them into BLX to ARM state
 ; BUILD: -v4
 ; BUILD: -v7A8
         .text

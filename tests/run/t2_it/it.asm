@@ -3,7 +3,6 @@
 ; Thumb-2.
 ; BUILD: -v7A8
 ; BUILD: -v7M3
-; XFAIL: needs the width choice (IT and CBZ are 16 bits)
         .text
         .thumb
         .global it_max_s

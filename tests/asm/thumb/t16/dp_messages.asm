@@ -40,5 +40,5 @@
         movs    r8, #1                  ;! E0004 Register Rd cannot be a hi register ;! W0004 Invalid instruction modifier(s) ignored
         movs    r0, #256                ;! E0200 Offset out of range, must be 8 bit immediate
         movs    r8, r0                  ;! W0004 Invalid instruction modifier(s) ignored
-        mov     r8, r0, lsl #1          ;! E0004 Illegal operand
+        mov     r8, r0, lsl #1          ;! E0004 Destination register Rd cannot be a hi register
         cmp     r0, r1, lsl #1          ;! E0004 Illegal operand
