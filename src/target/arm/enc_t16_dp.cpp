@@ -106,47 +106,43 @@ void add_sp_immediate(instruct *ir, const operand *x) {
 
 bool is_row(const instruct *ir, const char *name) { return std::strcmp(ia_row(ir)->name, name) == 0; }
 
+// The shift type at 11 and the amount in five bits at 6; LSR and ASR take 1
+// to 32, with 32 written as 0.
+void put_shift(instruct *ir, uint32_t type, int64_t n, uint16_t mods) {
+  ENC_put(ir, 11, 2, type);
+  if (type != SHIFT_LSL) {
+    if (n == 0) {
+      error(ir->line, "E0004", "%s Shift count must lie between 1 and 32", type == SHIFT_LSR ? "LSR" : "ASR");
+      return;
+    }
+    if (n == 32) n = 0;
+  }
+  T16_unsigned_field(ir, T16_icon(n, mods), 6, 5);
+}
+
 // LSL, LSR, ASR by an immediate: the register form's opcode (2, 3, 4 in
 // bits 6 to 9) less 2 is the shift type of the immediate form. It is read
 // from the row: a trial encoding writes no bits to read back.
 void shift_immediate(instruct *ir, const operand *amount) {
   const uint32_t type = ((ia_opcode(ir) >> 6) & 0xF) - 2;
   ENC_clear(ir, 1u << 14);
-  ENC_put(ir, 11, 2, type);
   if (amount->kind != OP_ICON) {
+    ENC_put(ir, 11, 2, type);
     error(ir->line, "E0004", "Illegal operand");
     return;
   }
-  int64_t n = ENC_value(amount);
-  if (type != SHIFT_LSL) {
-    if (n == 0) {
-      error(ir->line, "E0004", "%s Shift count must lie between 1 and 32", type == SHIFT_LSR ? "LSR" : "ASR");
-      return;
-    }
-    if (n == 32) n = 0;
-  }
-  T16_unsigned_field(ir, T16_icon(n, amount->op_mods), 6, 5);
+  put_shift(ir, type, ENC_value(amount), amount->op_mods);
 }
 
 // MOV Rd, Rm, LSL/LSR/ASR #n: the unified shift names read as a MOV reach the
 // 16-bit slot this way (with .N); it is the shift-by-immediate form.
 void mov_shifted(instruct *ir, const operand *rd, const operand *rm) {
-  const uint32_t type = rm->op_shift;
-  ENC_put(ir, 11, 2, type);
   if (T16_low_reg(ir, rd, DEST_RD_HI)) ENC_put(ir, 0, 3, rd->op_reg);
   if (rm->op_reg > 7)
     error(ir->line, "E0004", "%s", RS_HI);
   else
     ENC_put(ir, 3, 3, rm->op_reg);
-  int64_t n = ENC_value(rm);
-  if (type != SHIFT_LSL) {
-    if (n == 0) {
-      error(ir->line, "E0004", "%s Shift count must lie between 1 and 32", type == SHIFT_LSR ? "LSR" : "ASR");
-      return;
-    }
-    if (n == 32) n = 0;
-  }
-  T16_unsigned_field(ir, T16_icon(n, rm->op_mods), 6, 5);
+  put_shift(ir, rm->op_shift, ENC_value(rm), rm->op_mods);
 }
 
 constexpr char CPS_LETTERS[] = "FIA";   // bits 0, 1, 2
