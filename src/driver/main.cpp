@@ -17,7 +17,7 @@
 #include "driver/output_files.h"
 #include "expr/symbols.h"
 #include "support/memory.h"
-#include "target/arm/jumps.h"
+#include "target/arm/trg.h"
 
 namespace {
 

@@ -5,6 +5,8 @@
 // the lengths grow until everything reaches; pass 2 reads them back.
 #include <cstdint>
 
+#include "target/arm/trg.h"
+
 struct section_record;
 struct symbol_record;
 struct value_record;
@@ -60,13 +62,11 @@ uint32_t VLI_jump_size(const section_record *section, const jumprec *rec);
 // (for JUMP_LOAD_ADDR already rounded up to a word).
 uint32_t VLI_length_for(JUMP_LIST_TYPE kind, int64_t off);
 
-// Lets long pseudo-branches chain to a nearer branch with the same target.
-void reintroduce_branch_chains();
+// reintroduce_branch_chains and expand_jumps, which the driver calls between
+// the passes, are declared in trg.h.
 // Looks for a nearer branch with the same target for `rec` and chains it
 // there; false if there is none.
 bool can_chain_branch(section_record *section, jumprec *rec);
-// Widens what does not reach, moves labels and re-sizes alignment gaps.
-void expand_jumps();
 // Pass 2, for BT and BQ in plain Thumb: the chained target of the branch at
 // the current address as a signed halfword offset in *out; false if it has none.
 bool chained_branch(int class_id, int *out);

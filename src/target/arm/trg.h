@@ -152,3 +152,9 @@ bool arm_zq_arm9_abi();   // false
 
 // SCN_align in code sections: fills an alignment gap with the state's pattern.
 void ARM_trg_align(unsigned long bits);
+
+// Between the passes: lets long pseudo-branches chain to a nearer branch with
+// the same target, then widens what does not reach, moves labels and
+// re-sizes alignment gaps.
+void reintroduce_branch_chains();
+void expand_jumps();
